@@ -1,0 +1,50 @@
+# What the check scripts (cmake -P) and their registration share.
+
+# The folders at the top of the tree that may hold sources of ours.
+function(boardwright_top_folders out root)
+    file(GLOB entries RELATIVE "${root}" "${root}/*")
+    set(folders "")
+    foreach(entry IN LISTS entries)
+        if(IS_DIRECTORY "${root}/${entry}" AND NOT entry MATCHES "^(\\.|build|node_modules)")
+            list(APPEND folders "${entry}")
+        endif()
+    endforeach()
+    set(${out} "${folders}" PARENT_SCOPE)
+endfunction()
+
+# Every .h and .cpp file of ours, relative to root.
+function(boardwright_source_files out root)
+    boardwright_top_folders(folders "${root}")
+    set(files "")
+    foreach(folder IN LISTS folders)
+        file(GLOB_RECURSE found RELATIVE "${root}" "${root}/${folder}/*.h" "${root}/${folder}/*.cpp")
+        list(APPEND files ${found})
+    endforeach()
+    list(FILTER files EXCLUDE REGEX "(^|/)node_modules/")
+    set(${out} "${files}" PARENT_SCOPE)
+endfunction()
+
+# The .cpp files that lie directly in folder and that the build in build_dir compiles.
+function(boardwright_compiled_files out root folder build_dir)
+    file(READ "${build_dir}/compile_commands.json" database)
+    file(GLOB files "${root}/${folder}/*.cpp")
+    set(compiled "")
+    foreach(file IN LISTS files)
+        string(FIND "${database}" "\"file\": \"${file}\"" position)
+        if(NOT position EQUAL -1)
+            list(APPEND compiled "${file}")
+        endif()
+    endforeach()
+    set(${out} "${compiled}" PARENT_SCOPE)
+endfunction()
+
+# Ends the calling script when the tool is missing: a failure where CI is set, a skipped case elsewhere.
+macro(boardwright_need_checker tool package)
+    if(NOT EXISTS "${tool}")
+        if(DEFINED ENV{CI})
+            message(FATAL_ERROR "${package} is not installed")
+        endif()
+        message(STATUS "check skipped: ${package} is not installed")
+        return()
+    endif()
+endmacro()

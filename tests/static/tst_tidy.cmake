@@ -1,0 +1,17 @@
+include("${CMAKE_CURRENT_LIST_DIR}/fixture.cmake")
+
+start_tree()
+file(COPY "${CHECKS}/../.clang-tidy" DESTINATION "${FIXTURE}")
+write_compile_command(model/row.cpp)
+set(definitions FOLDER=model BUILD_DIR=${FIXTURE}/build TOOL=${CLANG_TIDY})
+
+write(model/row.h "#pragma once" "struct Row {" "    int *cells = nullptr\;" "}\;")
+write(model/row.cpp "#include \"row.h\"" "Row row()" "{" "    return {}\;" "}")
+expect_pass(checktidy.cmake ${definitions})
+
+write(model/row.h "#pragma once" "struct Row {" "    int *cells = 0\;" "}\;")
+expect_complaint("model/row.h:3:18: error: use nullptr" checktidy.cmake ${definitions})
+
+write(model/row.h "#pragma once" "struct Row {" "    int *cells\;" "}\;")
+write(model/row.cpp "#include \"row.h\"" "Row row()" "{" "    Row row\;" "    return row\;" "}")
+expect_complaint("model/row.cpp:4:" checktidy.cmake ${definitions})

@@ -1,0 +1,59 @@
+# shellcheck shell=bash
+# Sourced by run and test: what a Debian machine needs, and how it gets there.
+
+build_packages=(
+    ca-certificates g++ cmake ninja-build ccache
+    qtbase5-dev qtbase5-dev-tools
+    fontconfig fonts-dejavu-core
+)
+test_packages=(
+    xvfb xauth x11-utils xdotool openbox
+    clang-format clang-tidy clazy
+)
+
+is_installed() {
+    [[ $(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null) == installed ]]
+}
+
+as_root() {
+    if ((EUID == 0)); then
+        "$@"
+    elif command -v sudo >/dev/null; then
+        sudo "$@"
+    else
+        echo "Not root and no sudo here; please run as root: $*" >&2
+        return 1
+    fi
+}
+
+apt_get() {
+    as_root env DEBIAN_FRONTEND=noninteractive apt-get \
+        -o Acquire::Retries=3 -o DPkg::Lock::Timeout=300 "$@"
+}
+
+# install_missing <package>...: leaves a machine that has them all alone, and so needs no network there.
+install_missing() {
+    local missing=() package
+    if ! command -v dpkg-query >/dev/null; then
+        echo "Not a Debian machine; make sure that it has the counterparts of: $*" >&2
+        return 0
+    fi
+    for package in "$@"; do
+        is_installed "$package" || missing+=("$package")
+    done
+    ((${#missing[@]})) || return 0
+    echo "Installing ${missing[*]}"
+    apt_get update
+    apt_get install -y --no-install-recommends "${missing[@]}"
+}
+
+install_build_needs() {
+    local packages=("${build_packages[@]}")
+    # npm fetches the font packages; a Node.js that did not come from Debian brings its own.
+    command -v npm >/dev/null || packages+=(npm)
+    install_missing "${packages[@]}" "$@"
+}
+
+install_test_needs() {
+    install_build_needs "${test_packages[@]}"
+}
