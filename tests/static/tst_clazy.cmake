@@ -1,4 +1,5 @@
 include("${CMAKE_CURRENT_LIST_DIR}/fixture.cmake")
+boardwright_need_checker("${CLAZY}" clazy)
 
 start_tree()
 write_compile_command(model/row.cpp)

@@ -1,4 +1,5 @@
 include("${CMAKE_CURRENT_LIST_DIR}/fixture.cmake")
+boardwright_need_checker("${CLANG_FORMAT}" clang-format)
 
 start_tree()
 file(COPY "${CHECKS}/../.clang-format" DESTINATION "${FIXTURE}")

@@ -1,4 +1,5 @@
 include("${CMAKE_CURRENT_LIST_DIR}/fixture.cmake")
+boardwright_need_checker("${CLANG_TIDY}" clang-tidy)
 
 start_tree()
 file(COPY "${CHECKS}/../.clang-tidy" DESTINATION "${FIXTURE}")
