@@ -1,0 +1,8 @@
+#include "assets/fontsresource.h"
+
+#include <QDir>
+
+void initFontsResource()
+{
+    Q_INIT_RESOURCE(fonts);
+}
