@@ -1,0 +1,13 @@
+#pragma once
+
+class ContentViewer;
+
+/// What a content needs to know of the frame that it is made in: that the frame takes it.
+class ContentHost
+{
+public:
+    virtual ~ContentHost() = default;
+
+    /// Takes the content as the one thing shown by this host, which owns it from now on. Null is allowed.
+    virtual void setContent(ContentViewer *content) = 0;
+};

@@ -1,0 +1,159 @@
+#include "model/contentviewer.h"
+
+#include "model/contenthost.h"
+#include "model/keys.h"
+#include "model/pixels.h"
+#include "model/widgetgeometry.h"
+
+#include <QMouseEvent>
+
+namespace
+{
+/// One geometry key to the frame; any other key is none of the frame's business.
+void applyToFrame(QWidget *frame, const QString &key, const QVariant &value)
+{
+    if (key == Keys::x())
+        moveNow(frame, QPoint(toPixels(value), frame->y()));
+    else if (key == Keys::y())
+        moveNow(frame, QPoint(frame->x(), toPixels(value)));
+    else if (key == Keys::w())
+        resizeNow(frame, QSize(toPixels(value), frame->height()));
+    else if (key == Keys::h())
+        resizeNow(frame, QSize(frame->width(), toPixels(value)));
+}
+
+/// Numbers are doubles whatever the JSON reader made of them, so that 10 and 10.0 are the same value.
+QVariant toVariant(const QJsonValue &value)
+{
+    return value.isDouble() ? QVariant(value.toDouble()) : value.toVariant();
+}
+} // namespace
+
+ContentViewer::ContentViewer(QWidget *parent)
+{
+    setParent(parent);
+    if (auto *host = dynamic_cast<ContentHost *>(parent))
+        host->setContent(this);
+}
+
+void ContentViewer::anyValueChanged()
+{
+    if (QWidget *frame = parentWidget()) {
+        // A copy: every move and resize of the frame comes back and rewrites the map.
+        const QMap<QString, QVariant> values = m_values;
+        for (auto it = values.cbegin(); it != values.cend(); ++it)
+            applyToFrame(frame, it.key(), it.value());
+    }
+    update();
+}
+
+QStringList ContentViewer::getEnumsFor(QString enumName)
+{
+    Q_UNUSED(enumName)
+    return {};
+}
+
+void ContentViewer::setValues(QMap<QString, QVariant> values)
+{
+    m_values = std::move(values);
+    anyValueChanged();
+}
+
+QMap<QString, QVariant> ContentViewer::getValues()
+{
+    return m_values;
+}
+
+void ContentViewer::setValue(QString key, QVariant value)
+{
+    m_values.insert(key, value);
+    anyValueChanged();
+}
+
+QVariant ContentViewer::getValue(QString key)
+{
+    return m_values.value(key);
+}
+
+void ContentViewer::applyGeometry(QRect geometry)
+{
+    storeGeometry(geometry);
+    emit valueChanged(Keys::x(), geometry.x());
+    emit valueChanged(Keys::w(), geometry.width());
+    emit valueChanged(Keys::y(), geometry.y());
+    emit valueChanged(Keys::h(), geometry.height());
+}
+
+void ContentViewer::endEditing() {}
+
+QVariant ContentViewer::getMinValue(QString key)
+{
+    const bool isGeometry = key == Keys::x() || key == Keys::y() || key == Keys::w() || key == Keys::h();
+    return isGeometry ? QVariant(0) : QVariant();
+}
+
+QVariant ContentViewer::getMaxValue(QString key)
+{
+    const QWidget *frame = parentWidget();
+    const QWidget *canvas = frame ? frame->parentWidget() : nullptr;
+    if (!canvas)
+        return {};
+    if (key == Keys::x())
+        return canvas->width() - frame->width();
+    if (key == Keys::y())
+        return canvas->height() - frame->height();
+    if (key == Keys::w())
+        return canvas->width() - frame->x();
+    if (key == Keys::h())
+        return canvas->height() - frame->y();
+    return {};
+}
+
+bool ContentViewer::fromJson(QJsonObject object)
+{
+    bool complete = true;
+    const auto definitions = getValueNameTypeDefinition();
+    for (const Definition &definition : definitions) {
+        if (m_values.contains(definition.first))
+            setValue(definition.first, toVariant(object.value(definition.first)));
+        else
+            complete = false;
+    }
+    anyValueChanged();
+    return complete;
+}
+
+QJsonObject ContentViewer::toJson()
+{
+    QJsonObject object;
+    object.insert(Keys::type(), QJsonValue::fromVariant(m_values.value(Keys::type())));
+    const auto definitions = getValueNameTypeDefinition();
+    for (const Definition &definition : definitions)
+        object.insert(definition.first, QJsonValue::fromVariant(m_values[definition.first]));
+    return object;
+}
+
+void ContentViewer::newGeometrySlot(QRect geometry)
+{
+    applyGeometry(geometry);
+}
+
+void ContentViewer::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    event->accept();
+}
+
+void ContentViewer::initValues(const QString &typeName)
+{
+    m_values.insert(Keys::type(), typeName);
+    const QWidget *frame = parentWidget();
+    storeGeometry(frame ? frame->geometry() : geometry());
+}
+
+void ContentViewer::storeGeometry(const QRect &geometry)
+{
+    m_values.insert(Keys::x(), geometry.x());
+    m_values.insert(Keys::y(), geometry.y());
+    m_values.insert(Keys::w(), geometry.width());
+    m_values.insert(Keys::h(), geometry.height());
+}

@@ -1,0 +1,37 @@
+#include "model/widgetgeometry.h"
+
+#include <QCoreApplication>
+#include <QMoveEvent>
+#include <QResizeEvent>
+#include <QWidget>
+
+void moveNow(QWidget *widget, QPoint position)
+{
+    if (widget->pos() == position)
+        return;
+    widget->move(position);
+    sendHeldGeometryEvents(widget);
+}
+
+void resizeNow(QWidget *widget, QSize size)
+{
+    if (widget->size() == size)
+        return;
+    widget->resize(size);
+    sendHeldGeometryEvents(widget);
+}
+
+void sendHeldGeometryEvents(QWidget *widget)
+{
+    if (widget->testAttribute(Qt::WA_PendingMoveEvent)) {
+        widget->setAttribute(Qt::WA_PendingMoveEvent, false);
+        QMoveEvent event(widget->pos(), widget->pos());
+        QCoreApplication::sendEvent(widget, &event);
+    }
+    // The handler of a resize may resize once more, which is held back again.
+    while (widget->testAttribute(Qt::WA_PendingResizeEvent)) {
+        widget->setAttribute(Qt::WA_PendingResizeEvent, false);
+        QResizeEvent event(widget->size(), widget->size());
+        QCoreApplication::sendEvent(widget, &event);
+    }
+}
