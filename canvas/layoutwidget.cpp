@@ -1,0 +1,3 @@
+#include "canvas/layoutwidget.h"
+
+LayoutWidget::LayoutWidget(QWidget *parent) : QWidget(parent) {}

@@ -1,0 +1,464 @@
+#include "canvas/screen.h"
+
+#include "canvas/dotgrid.h"
+#include "canvas/framegeometry.h"
+#include "canvas/itemclipboard.h"
+#include "canvas/screenitem.h"
+#include "model/keys.h"
+#include "model/namedcolor.h"
+#include "model/pixels.h"
+#include "model/widgetgeometry.h"
+#include "viewers/contentfactory.h"
+
+#include <QCoreApplication>
+#include <QDebug>
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QShortcut>
+
+#include <algorithm>
+
+namespace
+{
+constexpr QSize newItemSize(100, 50);
+
+/// Beyond one moved frame in this many, one whole paint is cheaper than many small ones.
+constexpr int framesPerMove = 15;
+
+QString dragFormat()
+{
+    return QStringLiteral("screen/screenItem");
+}
+
+/// Hides the canvas while many items are made on it and shows it again: a visible canvas would repaint for each.
+class HiddenWhileFilling
+{
+public:
+    HiddenWhileFilling(QWidget &canvas, qptrdiff itemCount) : m_canvas(canvas), m_hides(itemCount > 1 && canvas.isVisible())
+    {
+        if (m_hides)
+            m_canvas.hide();
+    }
+    ~HiddenWhileFilling()
+    {
+        if (m_hides)
+            m_canvas.show();
+    }
+    Q_DISABLE_COPY(HiddenWhileFilling)
+
+    /// Delivers what new widgets have posted to themselves, now and then: the toolkit searches the queue often.
+    void itemMade()
+    {
+        if (++m_itemsMade % 200 != 0)
+            return;
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::PolishRequest);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    }
+
+private:
+    QWidget &m_canvas;
+    bool m_hides;
+    int m_itemsMade = 0;
+};
+} // namespace
+
+Screen::Screen(QWidget *parent) : QWidget(parent)
+{
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setAcceptDrops(true);
+    bindShortcuts();
+}
+
+Screen::~Screen()
+{
+    // While the canvas is still whole, since every frame reports its end.
+    deleteAllItems();
+}
+
+void Screen::bindShortcuts()
+{
+    const auto bind = [this](const QString &keys, void (Screen::*slot)()) {
+        auto *shortcut = new QShortcut(QKeySequence(keys), this);
+        shortcut->setContext(Qt::WindowShortcut);
+        connect(shortcut, &QShortcut::activated, this, slot);
+    };
+    bind(QStringLiteral("Ctrl+C"), &Screen::copyShortcutActivated);
+    bind(QStringLiteral("Ctrl+X"), &Screen::cutShortcutActivated);
+    bind(QStringLiteral("Ctrl+V"), &Screen::pasteShortcutActivated);
+    bind(QStringLiteral("Ctrl+A"), &Screen::selectAllShortcutActivated);
+}
+
+void Screen::addScreenItem(ScreenItem *item)
+{
+    qDebug() << "m_allItems.contains(item)" << m_items.contains(item);
+    qDebug() << "addScreenItem(ScreenItem* item=" << static_cast<void *>(item) << ")";
+    m_items.append(item);
+    item->setParent(this);
+    // In this order: the others leave their active state before the panel of the new active one is shown.
+    connect(this, &Screen::deactivateFor, item, &ScreenItem::deactivateSlot);
+    connect(item, &ScreenItem::activated, this, &Screen::deactivateFor);
+    connect(item, &ScreenItem::activated, this, &Screen::setActiveItem);
+    connect(item, &QObject::destroyed, this, &Screen::screenItemDeleted);
+    m_modified = true;
+}
+
+void Screen::clearSelection()
+{
+    const QList<ScreenItem *> selected = m_selection;
+    for (ScreenItem *item : selected)
+        item->deselect();
+    m_selection.clear();
+}
+
+void Screen::noteSelected(ScreenItem *item, bool selected)
+{
+    if (selected)
+        m_selection.append(item);
+    else
+        m_selection.removeOne(item);
+}
+
+void Screen::moveFrames(const QList<ScreenItem *> &frames, QPoint delta)
+{
+    if (frames.isEmpty())
+        return;
+    const bool paintsAll = frames.size() > 1 && frames.size() * framesPerMove > m_items.size();
+    if (paintsAll)
+        update();
+    for (ScreenItem *frame : frames) {
+        frame->move(frame->pos() + delta);
+        emit frame->newGeometry(frame->geometry());
+    }
+    // The moves have marked what they uncover and cover; any repaint paints all of it.
+    repaint(paintsAll ? rect() : frames.first()->geometry());
+}
+
+void Screen::restack()
+{
+    for (ScreenItem *item : qAsConst(m_items))
+        item->raise();
+}
+
+void Screen::bringToFront(ScreenItem *item)
+{
+    m_modified = true;
+    item->raise();
+    m_items.removeOne(item);
+    m_items.append(item);
+}
+
+void Screen::sendToBack(ScreenItem *item)
+{
+    m_modified = true;
+    item->lower();
+    m_items.removeOne(item);
+    m_items.prepend(item);
+}
+
+void Screen::moveLayerUp(ScreenItem *item)
+{
+    const int index = m_items.indexOf(item);
+    if (index >= 0 && index + 1 < m_items.size())
+        swapLayers(index, index + 1);
+}
+
+void Screen::moveLayerDown(ScreenItem *item)
+{
+    const int index = m_items.indexOf(item);
+    if (index >= 1)
+        swapLayers(index, index - 1);
+}
+
+void Screen::swapLayers(int index, int otherIndex)
+{
+    m_items.swapItemsAt(index, otherIndex);
+    m_modified = true;
+    restack();
+}
+
+void Screen::duplicateSelection()
+{
+    QJsonArray copies;
+    for (ScreenItem *item : qAsConst(m_items)) {
+        if (!item->isSelected())
+            continue;
+        QJsonObject copy = item->toJson();
+        copy.insert(Keys::screenItemName(), item->name() + QStringLiteral(" duplicate"));
+        copies.append(copy);
+    }
+    clearSelection();
+    const QList<ScreenItem *> made = createItems(copies);
+    for (ScreenItem *item : made)
+        item->select();
+}
+
+void Screen::deleteSelectionAnd(ScreenItem *item)
+{
+    const QList<ScreenItem *> selected = m_selection;
+    clearSelection();
+    for (ScreenItem *member : selected) {
+        if (member != item)
+            member->deleteLater();
+    }
+    item->deleteLater();
+}
+
+QJsonObject Screen::saveLayout()
+{
+    QJsonArray items;
+    for (ScreenItem *item : qAsConst(m_items))
+        items.append(item->toJson());
+    const QJsonObject parameters = {{Keys::height(), height()},
+                                    {Keys::width(), width()},
+                                    {Keys::backgroundColor(), m_backgroundColor.toRgb().name(QColor::HexRgb)}};
+    return {{Keys::items(), items}, {Keys::parameters(), parameters}};
+}
+
+void Screen::loadLayout(const QJsonObject &document)
+{
+    deleteAllItems();
+    m_nameCounters.clear();
+    const QJsonObject parameters = document.value(Keys::parameters()).toObject();
+    setWidgth(parameters.value(Keys::width()).toInt());
+    setHeight(parameters.value(Keys::height()).toInt());
+    setBackgrounColor(namedColor(parameters.value(Keys::backgroundColor()).toString()));
+    createItems(document.value(Keys::items()).toArray());
+    m_modified = false;
+}
+
+bool Screen::hasTooManyItems(const QJsonObject &document)
+{
+    return document.value(Keys::items()).toArray().size() > maximumItems;
+}
+
+ScreenItem *Screen::createItem(const QJsonObject &object)
+{
+    const QString type = object.value(Keys::type()).toString();
+    if (isFull() || !ContentFactory::isReadable(type))
+        return nullptr;
+    auto *item = new ScreenItem(this);
+    resizeNow(item, newItemSize);
+    ContentFactory::create(type, item)->show();
+    item->show();
+    QJsonObject remaining = object;
+    item->fromJson(remaining);
+    return item;
+}
+
+QList<ScreenItem *> Screen::createItems(const QJsonArray &objects)
+{
+    const auto readable = std::count_if(objects.begin(), objects.end(), [](const QJsonValue &object) {
+        return ContentFactory::isReadable(object.toObject().value(Keys::type()).toString());
+    });
+    HiddenWhileFilling hidden(*this, readable);
+    QList<ScreenItem *> made;
+    for (const QJsonValue &object : objects) {
+        if (ScreenItem *item = createItem(object.toObject())) {
+            made.append(item);
+            hidden.itemMade();
+        }
+    }
+    return made;
+}
+
+void Screen::screenItemDeleted(QObject *item)
+{
+    m_modified = true;
+    // The item is no frame any more, only its address counts.
+    const auto isItem = [item](ScreenItem *listed) { return static_cast<QObject *>(listed) == item; };
+    const auto layer = std::find_if(m_items.begin(), m_items.end(), isItem);
+    if (layer != m_items.end())
+        m_items.erase(layer);
+    const auto selected = std::find_if(m_selection.begin(), m_selection.end(), isItem);
+    if (selected != m_selection.end())
+        m_selection.erase(selected);
+}
+
+void Screen::setActiveItem(ScreenItem *item)
+{
+    if (!item || item->parentWidget() == this)
+        emit showSettingsFor(item);
+}
+
+void Screen::setWidgth(int width)
+{
+    changeSize(QSize(width, height()));
+}
+
+void Screen::setHeight(int height)
+{
+    changeSize(QSize(width(), height));
+}
+
+void Screen::changeSize(QSize size)
+{
+    const QSize possible = size.expandedTo(QSize(0, 0)).boundedTo(QSize(maximumPixels, maximumPixels));
+    if (possible != this->size())
+        m_modified = true;
+    setFixedSize(possible);
+}
+
+void Screen::setBackgrounColor(QColor color)
+{
+    m_backgroundColor = color;
+    // What lies under a translucent canvas has to be painted first.
+    setAttribute(Qt::WA_OpaquePaintEvent, color.alpha() == 255);
+    update();
+}
+
+void Screen::goToRenderMode()
+{
+    m_renderMode = true;
+    update();
+    for (ScreenItem *item : qAsConst(m_items))
+        item->enterRenderMode();
+}
+
+void Screen::goOutRenderMode()
+{
+    m_renderMode = false;
+    update();
+    for (ScreenItem *item : qAsConst(m_items))
+        item->leaveRenderMode();
+}
+
+QJsonArray Screen::selectionToJson()
+{
+    QJsonArray objects;
+    for (ScreenItem *item : qAsConst(m_items)) {
+        if (item->isSelected())
+            objects.append(item->toJson());
+    }
+    return objects;
+}
+
+bool Screen::copySelection()
+{
+    const QJsonArray objects = selectionToJson();
+    if (!objects.isEmpty())
+        ItemClipboard::put(objects);
+    return !objects.isEmpty();
+}
+
+void Screen::copyShortcutActivated()
+{
+    copySelection();
+}
+
+void Screen::cutShortcutActivated()
+{
+    if (copySelection())
+        deleteSelection();
+}
+
+void Screen::pasteShortcutActivated()
+{
+    const QJsonArray objects = ItemClipboard::items();
+    if (objects.isEmpty())
+        return;
+    clearSelection();
+    const QList<ScreenItem *> made = createItems(objects);
+    for (ScreenItem *item : made)
+        item->select();
+}
+
+void Screen::selectAllShortcutActivated()
+{
+    clearSelection();
+    for (ScreenItem *item : qAsConst(m_items))
+        item->select();
+}
+
+void Screen::newItem(QString name)
+{
+    if (isFull() || !ContentFactory::isClickable(name))
+        return;
+    ScreenItem *item = newFrame(QPoint(0, 0));
+    const QString prefix = ContentFactory::namePrefix(name);
+    item->setMyName(prefix + QLatin1Char(' ') + QString::number(m_nameCounters[prefix]++));
+    ContentFactory::create(name, item);
+    item->activate();
+}
+
+ScreenItem *Screen::newFrame(QPoint position)
+{
+    auto *item = new ScreenItem(this);
+    resizeNow(item, newItemSize);
+    moveNow(item, position);
+    return item;
+}
+
+void Screen::deleteAllItems()
+{
+    m_selection.clear();
+    while (!m_items.isEmpty())
+        delete m_items.takeFirst();
+}
+
+void Screen::deleteSelection()
+{
+    const QList<ScreenItem *> selected = m_selection;
+    clearSelection();
+    for (ScreenItem *item : selected)
+        item->deleteLater();
+}
+
+bool Screen::isFull() const
+{
+    return m_items.size() >= maximumItems;
+}
+
+void Screen::dragEnterEvent(QDragEnterEvent *event)
+{
+    event->setAccepted(event->mimeData()->hasFormat(dragFormat()));
+}
+
+void Screen::dragMoveEvent(QDragMoveEvent *event)
+{
+    event->setAccepted(event->mimeData()->hasFormat(dragFormat()));
+}
+
+void Screen::dropEvent(QDropEvent *event)
+{
+    const QString name = QString::fromUtf8(event->mimeData()->data(dragFormat()));
+    qDebug() << "Droped" << name;
+    if (isFull() || !ContentFactory::isDroppable(name))
+        return;
+    ScreenItem *item = newFrame(FrameGeometry::wholePixels(event->posF()));
+    ContentFactory::create(name, item)->show();
+    item->show();
+    event->acceptProposedAction();
+}
+
+void Screen::keyPressEvent(QKeyEvent *event)
+{
+    qDebug() << event;
+    if (event->key() == Qt::Key_Delete)
+        deleteSelection();
+}
+
+void Screen::mousePressEvent(QMouseEvent *event)
+{
+    Q_UNUSED(event)
+    emit deactivateFor(nullptr);
+    emit showSettingsFor(nullptr);
+    clearSelection();
+}
+
+void Screen::paintEvent(QPaintEvent *event)
+{
+    QPainter painter(this);
+    painter.fillRect(event->rect(), m_backgroundColor);
+    if (!m_renderMode)
+        DotGrid::draw(painter, event->rect());
+}
+
+void Screen::resizeEvent(QResizeEvent *event)
+{
+    Q_UNUSED(event)
+    emit meResized();
+}

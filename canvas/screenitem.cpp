@@ -1,0 +1,492 @@
+#include "canvas/screenitem.h"
+
+#include "canvas/editmodeborderrenderer.h"
+#include "canvas/screen.h"
+#include "model/keys.h"
+#include "model/widgetgeometry.h"
+
+#include <QAction>
+#include <QDebug>
+#include <QGuiApplication>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QPointer>
+#include <QVBoxLayout>
+
+namespace
+{
+/// The step of an arrow key; null for any other key.
+QPoint arrowStep(int key)
+{
+    switch (key) {
+    case Qt::Key_Up:
+        return {0, -1};
+    case Qt::Key_Down:
+        return {0, 1};
+    case Qt::Key_Left:
+        return {-1, 0};
+    case Qt::Key_Right:
+        return {1, 0};
+    default:
+        return {};
+    }
+}
+
+QRect boundingBox(const QList<ScreenItem *> &frames)
+{
+    QRect box;
+    for (const ScreenItem *frame : frames)
+        box = box.isNull() ? frame->geometry() : box.united(frame->geometry());
+    return box;
+}
+} // namespace
+
+ScreenItem::ScreenItem(Screen *screen)
+{
+    m_border = new EditModeBorderRenderer(this);
+    m_border->move(0, 0);
+    attachToScreen(screen);
+    buildContextMenu();
+    setAttribute(Qt::WA_DeleteOnClose);
+    setVisible(true);
+    sendHeldGeometryEvents(this);
+    setAutoFillBackground(false);
+    setMouseTracking(true);
+    setFocusPolicy(Qt::ClickFocus);
+    setFocus(Qt::OtherFocusReason);
+    m_layout = new QVBoxLayout(this);
+    // The focus just taken does not make a new frame the active one.
+    m_active = false;
+}
+
+ScreenItem::~ScreenItem() = default;
+
+void ScreenItem::buildContextMenu()
+{
+    m_contextMenu = new QMenu(this);
+    connect(m_contextMenu->addAction(tr("Bring to Front")), &QAction::triggered, this,
+            &ScreenItem::bringToFrontSlot);
+    connect(m_contextMenu->addAction(tr("Send to Back")), &QAction::triggered, this,
+            &ScreenItem::sendToBackSlot);
+    m_duplicateAction = m_contextMenu->addAction(tr("Duplicate Layer"));
+    connect(m_duplicateAction, &QAction::triggered, this, &ScreenItem::duplicateSlot);
+    m_deleteAction = m_contextMenu->addAction(tr("Delete Layer"));
+    connect(m_deleteAction, &QAction::triggered, this, &ScreenItem::deleteSlot);
+}
+
+void ScreenItem::setContent(ContentViewer *content)
+{
+    if (content) {
+        m_content = content;
+        content->setParent(this);
+        content->setAttribute(Qt::WA_TransparentForMouseEvents);
+        content->show();
+        m_layout->addWidget(content);
+        m_layout->setContentsMargins(0, 0, 0, 0);
+        connect(this, SIGNAL(newGeometry(QRect)), content, SLOT(newGeometrySlot(QRect)));
+        connect(content, SIGNAL(valueChanged(QString, QVariant)), this,
+                SIGNAL(valueChanged(QString, QVariant)));
+    }
+    m_border->raise();
+}
+
+void ScreenItem::attachToScreen(Screen *screen)
+{
+    if (screen)
+        screen->addScreenItem(this);
+}
+
+Screen *ScreenItem::canvas() const
+{
+    return qobject_cast<Screen *>(parentWidget());
+}
+
+void ScreenItem::setSelected(bool selected)
+{
+    if (m_selected == selected)
+        return;
+    m_selected = selected;
+    if (Screen *screen = canvas())
+        screen->noteSelected(this, selected);
+    m_border->update();
+    update();
+}
+
+void ScreenItem::select()
+{
+    setSelected(true);
+}
+
+void ScreenItem::deselect()
+{
+    setSelected(false);
+}
+
+void ScreenItem::activate()
+{
+    m_active = true;
+    m_border->update();
+    emit activated(this);
+}
+
+void ScreenItem::enterRenderMode()
+{
+    m_renderMode = true;
+    m_border->update();
+    if (m_content)
+        m_content->endEditing();
+}
+
+void ScreenItem::leaveRenderMode()
+{
+    m_renderMode = false;
+    m_border->update();
+}
+
+void ScreenItem::buildSettingsPanel(QWidget *host)
+{
+    if (host && m_content)
+        m_content->buildSettingsPanel(host);
+}
+
+QJsonObject ScreenItem::toJson()
+{
+    QJsonObject object = m_content ? m_content->toJson() : QJsonObject();
+    object.insert(Keys::screenItemName(), m_name);
+    return object;
+}
+
+bool ScreenItem::fromJson(QJsonObject &object)
+{
+    m_name = object.take(Keys::screenItemName()).toString();
+    return m_content && m_content->fromJson(object);
+}
+
+void ScreenItem::addAuxiliary(std::unique_ptr<QObject> object)
+{
+    m_auxiliaries.push_back(std::move(object));
+}
+
+void ScreenItem::deactivateSlot(ScreenItem *item)
+{
+    if (m_renderMode)
+        return;
+    setSelected(item == this);
+    if (item != this && m_content)
+        m_content->endEditing();
+}
+
+void ScreenItem::setMyName(QString myName)
+{
+    m_name = std::move(myName);
+}
+
+QVector<QPair<QString, ContentViewer::Parameters::ValueType>> ScreenItem::getValueNameTypeDefinition()
+{
+    return m_content ? m_content->getValueNameTypeDefinition() : QVector<ContentViewer::Definition>();
+}
+
+QStringList ScreenItem::getEnumsFor(QString enumName)
+{
+    return m_content ? m_content->getEnumsFor(enumName) : QStringList();
+}
+
+void ScreenItem::setValues(QMap<QString, QVariant> values)
+{
+    if (m_content)
+        m_content->setValues(values);
+}
+
+QMap<QString, QVariant> ScreenItem::getValues()
+{
+    return m_content ? m_content->getValues() : QMap<QString, QVariant>();
+}
+
+void ScreenItem::setValue(QString key, QVariant value)
+{
+    if (m_content)
+        m_content->setValue(key, value);
+    if (Screen *screen = canvas())
+        screen->markModified();
+}
+
+QVariant ScreenItem::getValue(QString key)
+{
+    return m_content ? m_content->getValue(key) : QVariant();
+}
+
+QVariant ScreenItem::getMaxValue(QString key)
+{
+    return m_content ? m_content->getMaxValue(key) : QVariant();
+}
+
+QVariant ScreenItem::getMinValue(QString key)
+{
+    return m_content ? m_content->getMinValue(key) : QVariant();
+}
+
+void ScreenItem::bringToFrontSlot()
+{
+    if (Screen *screen = canvas())
+        screen->bringToFront(this);
+}
+
+void ScreenItem::duplicateSlot()
+{
+    if (Screen *screen = canvas())
+        screen->duplicateSelection();
+}
+
+void ScreenItem::deleteSlot()
+{
+    if (Screen *screen = canvas())
+        screen->deleteSelectionAnd(this);
+}
+
+void ScreenItem::sendToBackSlot()
+{
+    if (Screen *screen = canvas())
+        screen->sendToBack(this);
+}
+
+void ScreenItem::sendToLayerDown()
+{
+    if (Screen *screen = canvas())
+        screen->moveLayerDown(this);
+}
+
+void ScreenItem::sendToLayerUp()
+{
+    if (Screen *screen = canvas())
+        screen->moveLayerUp(this);
+}
+
+void ScreenItem::becomeActive()
+{
+    m_active = true;
+    canvas()->repaint();
+    emit inFocus(true);
+}
+
+void ScreenItem::focusInEvent(QFocusEvent *event)
+{
+    Q_UNUSED(event)
+    if (canvas() && !m_renderMode)
+        becomeActive();
+}
+
+void ScreenItem::focusOutEvent(QFocusEvent *event)
+{
+    Q_UNUSED(event)
+    if (m_renderMode || !m_editable || m_contextMenuOpen)
+        return;
+    m_hitZone = HitZone::None;
+    emit outFocus(false);
+    m_active = false;
+    m_border->update();
+}
+
+void ScreenItem::mousePressEvent(QMouseEvent *event)
+{
+    if (m_renderMode || !canvas()) {
+        event->ignore();
+        return;
+    }
+    // A new frame may hold the focus without being active; a press makes up for it.
+    if (m_editable && !m_active && hasFocus())
+        becomeActive();
+    if (event->buttons() == Qt::LeftButton)
+        selectByPress();
+    m_pressAnchor = FrameGeometry::wholePixels(event->screenPos()) - pos();
+    if (m_editable && m_active && event->button() == Qt::RightButton) {
+        showContextMenu(FrameGeometry::wholePixels(event->localPos()));
+        event->accept();
+    }
+}
+
+void ScreenItem::selectByPress()
+{
+    if (QGuiApplication::keyboardModifiers() == Qt::ControlModifier)
+        toggleSelected();
+    else if (!m_selected)
+        selectAlone();
+    const QList<ScreenItem *> selection = canvas()->selection();
+    if (selection.size() == 1)
+        emit activated(selection.first());
+    else
+        emit canvas()->showSettingsFor(nullptr);
+}
+
+void ScreenItem::toggleSelected()
+{
+    setSelected(!m_selected);
+}
+
+void ScreenItem::selectAlone()
+{
+    canvas()->clearSelection();
+    select();
+}
+
+void ScreenItem::showContextMenu(QPoint position)
+{
+    if (m_contextMenu->isEmpty())
+        return;
+    // The item may be gone when the menu closes.
+    const QPointer<ScreenItem> guard(this);
+    m_contextMenuOpen = true;
+    nameMenuActions();
+    m_contextMenu->exec(mapToGlobal(position));
+    if (guard)
+        m_contextMenuOpen = false;
+}
+
+void ScreenItem::nameMenuActions()
+{
+    const bool several = canvas()->selection().size() >= 2;
+    m_duplicateAction->setText(several ? tr("Duplicate Layers") : tr("Duplicate Layer \"%1\"").arg(m_name));
+    m_deleteAction->setText(several ? tr("Delete Layers") : tr("Delete Layer \"%1\"").arg(m_name));
+}
+
+void ScreenItem::mouseMoveEvent(QMouseEvent *event)
+{
+    if (m_renderMode || !canvas()) {
+        event->ignore();
+        return;
+    }
+    QWidget::mouseMoveEvent(event);
+    if (!m_editable || !m_active)
+        return;
+    const QPoint pointer = FrameGeometry::wholePixels(event->localPos());
+    const QPoint corner = FrameGeometry::wholePixels(event->screenPos()) - m_pressAnchor;
+    if (event->buttons() == Qt::NoButton)
+        trackHitZone(pointer + pos());
+    else if (m_hitZone > HitZone::Interior)
+        resizeByHandle(pointer, corner);
+    else if (m_selected)
+        moveSelection(corner);
+    else {
+        if (m_hitZone == HitZone::None)
+            canvas()->repaint();
+        emit newGeometry(geometry());
+    }
+}
+
+void ScreenItem::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (m_renderMode)
+        event->ignore();
+    else
+        event->accept();
+}
+
+void ScreenItem::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    if (m_renderMode)
+        event->ignore();
+    else if (m_content)
+        m_content->mouseDoubleClickEvent(event);
+}
+
+void ScreenItem::trackHitZone(QPoint position)
+{
+    m_hitZone = FrameGeometry::hitZoneAt(position, geometry());
+    setCursor(FrameGeometry::cursorFor(m_hitZone));
+}
+
+void ScreenItem::moveSelection(QPoint corner)
+{
+    Screen *screen = canvas();
+    const QList<ScreenItem *> selection = screen->selection();
+    const QRect before = boundingBox(selection);
+    const QPoint wanted = corner - pos();
+    const QPoint delta = FrameGeometry::groupMove(before, wanted, screen->size());
+    qDebug() << "newMin = " << before.topLeft() + wanted;
+    screen->moveFrames(selection, delta);
+}
+
+void ScreenItem::resizeByHandle(QPoint pointer, QPoint corner)
+{
+    Screen *screen = canvas();
+    const QRect before = geometry();
+    const FrameGeometry::ResizeDrag drag = {m_hitZone, before, screen->size(), pointer, corner};
+    const QSize wanted = FrameGeometry::draggedSize(drag);
+    resize(wanted);
+    // The frame's own clamp has had its say: the position is for the size that came out of it.
+    move(FrameGeometry::draggedPosition(drag, size()));
+    resize(size().expandedTo(QSize(FrameGeometry::minimumLength, FrameGeometry::minimumLength)));
+    screen->repaint(before.united(geometry()));
+    emit newGeometry(geometry());
+}
+
+void ScreenItem::keyPressEvent(QKeyEvent *event)
+{
+    if (m_renderMode || !canvas()) {
+        event->ignore();
+        return;
+    }
+    if (!m_editable)
+        return;
+    if (event->key() == Qt::Key_Delete) {
+        // Stays accepted, so that the canvas does not delete once more.
+        deleteByKey();
+        return;
+    }
+    if (event->modifiers() == Qt::ControlModifier)
+        nudgeSelection(event->key());
+    else if (event->modifiers() == Qt::ShiftModifier)
+        growSelection(event->key());
+    // Every member is told this frame's geometry and not its own: on purpose.
+    const QList<ScreenItem *> selection = canvas()->selection();
+    for (ScreenItem *frame : selection)
+        emit frame->newGeometry(geometry());
+}
+
+void ScreenItem::deleteByKey()
+{
+    if (canvas()->selection().size() < 2)
+        deleteLater();
+    else
+        canvas()->deleteSelectionAnd(this);
+}
+
+void ScreenItem::nudgeSelection(int key)
+{
+    const QPoint step = arrowStep(key);
+    const QList<ScreenItem *> selection = canvas()->selection();
+    for (ScreenItem *frame : selection)
+        frame->move(frame->pos() + step);
+}
+
+void ScreenItem::growSelection(int key)
+{
+    const QPoint step = arrowStep(key);
+    if (step.isNull())
+        return;
+    // This frame's width is given to every member, while each keeps its own height: on purpose.
+    const int newWidth = width() + step.x();
+    const QList<ScreenItem *> selection = canvas()->selection();
+    for (ScreenItem *frame : selection)
+        frame->resize(newWidth, frame->height() + step.y());
+}
+
+void ScreenItem::moveEvent(QMoveEvent *event)
+{
+    Q_UNUSED(event)
+    if (Screen *screen = canvas())
+        screen->markModified();
+    emit newGeometry(geometry());
+}
+
+void ScreenItem::resizeEvent(QResizeEvent *event)
+{
+    Screen *screen = canvas();
+    if (!screen)
+        return;
+    const QSize clamped = FrameGeometry::clampedSize(QRect(pos(), event->size()), screen->size());
+    if (clamped != event->size())
+        resize(clamped);
+    screen->markModified();
+    m_border->resize(size());
+    emit newGeometry(geometry());
+}
