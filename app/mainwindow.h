@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QMainWindow>
+#include <QStringList>
+
+class QAction;
+class QMenu;
+class Screen;
+class ScreenContainer;
+
+/// The editor's one window: the canvas in the middle, the menus and the file commands.
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit MainWindow(QWidget *parent = nullptr);
+
+    /// The families of the fonts loaded at start, in the order in which they were first seen.
+    static QStringList fontFamilies();
+
+    /// The canvas; it is the same one for the life of the window.
+    Screen *canvas() const { return m_screen; }
+
+    /// The layout file last opened or saved; empty before the first, the template's path after "New".
+    QString currentPath() const { return m_currentPath; }
+
+    // The order of the slots is part of the interface, and so is the spelling of the last one.
+public slots:
+    void openFile(QString filePath);
+    void saveFile(QString filePath);
+
+protected slots:
+    void saveAsActionTriggered();
+    void openActionTriggered();
+    void newFileActionTriggered();
+    void saveActionTriggered();
+    void exportActionTriggered();
+    void exitActionTriggered();
+    void getUpdatesActionTrggered();
+
+private:
+    void buildMenus();
+    void buildCentralArea();
+    QAction *addCommand(QMenu *menu, const QString &text, const QString &keys, void (MainWindow::*command)());
+    QString askForLayoutToSave();
+    void openEmptyLayout();
+    void showError(const QString &title, const QString &text);
+
+    Screen *m_screen = nullptr;
+    ScreenContainer *m_screenContainer = nullptr;
+    QAction *m_saveAction = nullptr;
+    QString m_currentPath;
+};

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QScrollArea>
+
+class Screen;
+
+/// The scroll area around the canvas: centres a canvas that is smaller than the view and opens a larger one
+/// scrolled to its middle.
+class ScreenContainer : public QScrollArea
+{
+    Q_OBJECT
+
+public:
+    explicit ScreenContainer(QWidget *parent = nullptr);
+
+    /// Shows this canvas and owns it; the one shown before is deleted.
+    void setScreen(Screen *screen);
+
+public slots:
+    /// Centres the canvas; nothing without one.
+    void calculateGeometry();
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    Screen *m_screen = nullptr;
+};
