@@ -9,7 +9,11 @@ if(NOT files)
     message(STATUS "check skipped: this build compiles nothing in ${FOLDER}")
     return()
 endif()
-execute_process(COMMAND "${TOOL}" --quiet -p "${BUILD_DIR}" ${files} RESULT_VARIABLE result)
+execute_process(COMMAND "${TOOL}" --quiet -p "${BUILD_DIR}" ${files}
+    RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE errors)
+# The tool also counts what it keeps silent about.
+string(REGEX REPLACE "[0-9]+ warnings?( and [0-9]+ errors?)? generated\\.\n" "" errors "${errors}")
+message("${output}${errors}")
 if(NOT result EQUAL 0)
     message(FATAL_ERROR "clang-tidy complains about ${FOLDER}")
 endif()

@@ -15,19 +15,10 @@ is_installed() {
     [[ $(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null) == installed ]]
 }
 
-as_root() {
-    if ((EUID == 0)); then
-        "$@"
-    elif command -v sudo >/dev/null; then
-        sudo "$@"
-    else
-        echo "Not root and no sudo here; please run as root: $*" >&2
-        return 1
-    fi
-}
-
 apt_get() {
-    as_root env DEBIAN_FRONTEND=noninteractive apt-get \
+    local prefix=()
+    ((EUID == 0)) || prefix=(sudo)
+    "${prefix[@]}" env DEBIAN_FRONTEND=noninteractive apt-get \
         -o Acquire::Retries=3 -o DPkg::Lock::Timeout=300 "$@"
 }
 
@@ -42,6 +33,10 @@ install_missing() {
         is_installed "$package" || missing+=("$package")
     done
     ((${#missing[@]})) || return 0
+    if ((EUID != 0)) && ! command -v sudo >/dev/null; then
+        echo "Neither root nor sudo here; please have these packages installed: ${missing[*]}" >&2
+        return 1
+    fi
     echo "Installing ${missing[*]}"
     apt_get update
     apt_get install -y --no-install-recommends "${missing[@]}"

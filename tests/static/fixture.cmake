@@ -3,10 +3,10 @@ cmake_minimum_required(VERSION 3.16)
 include("${CHECKS}/checkcommon.cmake")
 
 # A tree without any file.
-macro(start_tree)
+function(start_tree)
     file(REMOVE_RECURSE "${FIXTURE}")
     file(MAKE_DIRECTORY "${FIXTURE}")
-endmacro()
+endfunction()
 
 # write(<path> <line>...)
 function(write path)
