@@ -146,6 +146,7 @@ if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
 endif()
 
 add_library(boardwright_fonts_resource STATIC ${fonts_object} fontsresource.cpp fontsresource.h)
+set_target_properties(boardwright_fonts_resource PROPERTIES AUTOMOC OFF)
 target_link_libraries(boardwright_fonts_resource PUBLIC Qt5::Core PRIVATE boardwright_flags)
 target_include_directories(boardwright_fonts_resource PUBLIC "${CMAKE_SOURCE_DIR}")
 # Lets tests tell a build without the packages from a broken one.

@@ -44,7 +44,7 @@ private:
 
 namespace
 {
-const QStringList bundledFamilies()
+QStringList bundledFamilies()
 {
     return {"Arimo",
             "Bangers",
@@ -148,8 +148,7 @@ void tst_ApplicationFonts::loadsBundledThenUserFonts()
     putUserFile("aaa.picture", renamedFont("Righteous_400Regular.ttf", "Righteous", "Backyards"));
     putUserFile("duplicate.ttf", bundledFile("Bangers_400Regular.ttf"));
     loadApplicationFonts();
-    QCOMPARE(FontFamilies::list().size(), 31);
-    QCOMPARE(FontFamilies::list().last(), QString("Backyards"));
+    QCOMPARE(FontFamilies::list().mid(30), QStringList("Backyards"));
     QCOMPARE(QFontInfo(QFont("Backyards")).family(), QString("Backyards"));
 }
 
