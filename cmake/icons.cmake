@@ -2,8 +2,8 @@
 # `cmake --build <folder> --target icons` draws the committed images anew from their sources; an ordinary
 # build never does, so that it needs no SVG tool.
 set(icon_table
-    "spinup.svg     style/up.png                9   4"
-    "spindown.svg   style/down.png              9   4"
+    "spinup.svg     style/up.png                8   4"
+    "spindown.svg   style/down.png              8   4"
     "dropdown.svg   style/combo_box.png         9   5"
     "expanded.svg   interface/widget_down.png   15  15"
     "collapsed.svg  interface/widget_right.png  15  15"
