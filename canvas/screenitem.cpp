@@ -336,6 +336,8 @@ void ScreenItem::showContextMenu(QPoint position)
     const QPointer<ScreenItem> guard(this);
     m_contextMenuOpen = true;
     nameMenuActions();
+    // The see-through sheet of the area around the canvas reaches down to here; a menu needs a ground of its own.
+    m_contextMenu->setStyleSheet(QStringLiteral("QMenu{background:#454545;}"));
     m_contextMenu->exec(mapToGlobal(position));
     if (guard)
         m_contextMenuOpen = false;
