@@ -47,6 +47,7 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent)
     applyApplicationStyle();
     loadApplicationFonts();
     registerFontSubstitutions();
+    setWindowTitle(tr("Boardwright"));
     buildMenus();
     buildCentralArea();
 }
