@@ -6,3 +6,8 @@ void initFontsResource()
 {
     Q_INIT_RESOURCE(fonts);
 }
+
+int missingFontFiles()
+{
+    return BOARDWRIGHT_MISSING_FONTS;
+}

@@ -95,12 +95,14 @@ endfunction()
 
 if(BOARDWRIGHT_FONTS_DIR)
     get_filename_component(fonts_folder "${BOARDWRIGHT_FONTS_DIR}" ABSOLUTE)
-    set(fonts_reason "BOARDWRIGHT_FONTS_DIR lacks them")
+    set(fonts_reason "")
 else()
     boardwright_fetch_fonts(fonts_folder fonts_reason)
 endif()
-if(NOT NODE_EXECUTABLE)
-    string(APPEND fonts_reason " [node was not found]")
+if(NOT fonts_reason AND NOT NODE_EXECUTABLE)
+    set(fonts_reason "node was not found")
+elseif(NOT fonts_reason)
+    set(fonts_reason "not in ${fonts_folder}")
 endif()
 
 # The README is always there: a big resource cannot be empty.
@@ -149,5 +151,4 @@ add_library(boardwright_fonts_resource STATIC ${fonts_object} fontsresource.cpp 
 set_target_properties(boardwright_fonts_resource PROPERTIES AUTOMOC OFF)
 target_link_libraries(boardwright_fonts_resource PUBLIC Qt5::Core PRIVATE boardwright_flags)
 target_include_directories(boardwright_fonts_resource PUBLIC "${CMAKE_SOURCE_DIR}")
-# Lets tests tell a build without the packages from a broken one.
-target_compile_definitions(boardwright_fonts_resource INTERFACE BOARDWRIGHT_MISSING_FONTS=${fonts_missing})
+target_compile_definitions(boardwright_fonts_resource PRIVATE BOARDWRIGHT_MISSING_FONTS=${fonts_missing})

@@ -1,5 +1,6 @@
 #include "model/applicationfonts.h"
 
+#include "assets/fontsresource.h"
 #include "model/fontfamilies.h"
 
 #include <QDebug>
@@ -38,5 +39,5 @@ void loadApplicationFonts()
     QFontDatabase().families();
     loadFontFolder(QStringLiteral(":/assets/fonts/"));
     loadFontFolder(QStringLiteral("./fonts/"));
-    qDebug() << "Font families:" << FontFamilies::list();
+    qDebug() << "Font families:" << FontFamilies::list() << "bundled files missing:" << missingFontFiles();
 }

@@ -1,12 +1,14 @@
 #pragma once
 
+#include "assets/fontsresource.h"
+
 #include <QTest>
 
 /// Ends the test function when the program under test was built without the bundled fonts: skipped on a
-/// developer's machine, failed where CI is set. The test links boardwright_fonts_resource.
+/// developer's machine, failed where CI is set.
 #define REQUIRE_BUNDLED_FONTS()                                                                              \
     do {                                                                                                     \
-        if (BOARDWRIGHT_MISSING_FONTS == 0)                                                                  \
+        if (missingFontFiles() == 0)                                                                         \
             break;                                                                                           \
         const char *const reason = "this build lacks bundled fonts, see the warning of the configure step";  \
         if (qEnvironmentVariableIsSet("CI"))                                                                 \
