@@ -6,8 +6,8 @@
 #include "model/widgetgeometry.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QDebug>
-#include <QGuiApplication>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPointer>
@@ -336,8 +336,9 @@ void ScreenItem::showContextMenu(QPoint position)
     const QPointer<ScreenItem> guard(this);
     m_contextMenuOpen = true;
     nameMenuActions();
-    // The see-through sheet of the area around the canvas reaches down to here; a menu needs a ground of its own.
-    m_contextMenu->setStyleSheet(QStringLiteral("QMenu{background:#454545;}"));
+    // The see-through sheet of the area around the canvas reaches down to here. The application's sheet, given to
+    // the menu itself, has the last word.
+    m_contextMenu->setStyleSheet(qApp->styleSheet());
     m_contextMenu->exec(mapToGlobal(position));
     if (guard)
         m_contextMenuOpen = false;
