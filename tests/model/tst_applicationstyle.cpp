@@ -486,6 +486,7 @@ void tst_ApplicationStyle::declarationsWithoutVisibleEffectStand_data()
     QTest::newRow("a height that Qt does not heed for items without a box")
         << "QMenuBar::item, QMenu::item"
         << QStringList({"background-color: transparent", "min-height: 24px"});
+    QTest::newRow("a scroll bar has no border of its own") << "QScrollBar" << QStringList("border: none");
     QTest::newRow("red is painted over") << "QScrollArea" << QStringList({"background-color: red"});
     QTest::newRow("a separator without margins")
         << "QMainWindow::separator::vertical"
