@@ -28,10 +28,6 @@ void ScreenContainer::setScreen(Screen *screen)
     m_screen = screen;
     if (!screen)
         return;
-    connect(screen, &QObject::destroyed, this, [this, screen] {
-        if (m_screen == screen)
-            m_screen = nullptr;
-    });
     connect(screen, &Screen::meResized, this, &ScreenContainer::calculateGeometry);
     calculateGeometry();
     screen->setParent(widget());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPointer>
 #include <QScrollArea>
 
 class Screen;
@@ -24,5 +25,5 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
-    Screen *m_screen = nullptr;
+    QPointer<Screen> m_screen; // null again when the canvas is deleted elsewhere
 };
