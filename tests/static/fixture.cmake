@@ -17,7 +17,7 @@ endfunction()
 # Makes the tree look built, so that the checks that need compile commands find path.
 function(write_compile_command path)
     file(WRITE "${FIXTURE}/build/compile_commands.json"
-        "[{ \"directory\": \"${FIXTURE}\", \"command\": \"c++ -std=c++17 -fPIC -c ${FIXTURE}/${path}\",\n"
+        "[{ \"directory\": \"${FIXTURE}\", \"command\": \"c++ -fPIC -Wall -Werror -c ${FIXTURE}/${path}\",\n"
         "\"file\": \"${FIXTURE}/${path}\" }]\n")
 endfunction()
 

@@ -6,7 +6,7 @@ write_compile_command(model/row.cpp)
 set(definitions FOLDER=model BUILD_DIR=${FIXTURE}/build TOOL=${CLAZY})
 
 write(model/row.h "#pragma once" "struct Row {" "    int cells = 0\;" "}\;")
-write(model/row.cpp "#include \"row.h\"" "void copy(Row &to, const Row &from)" "{" "    to = from\;" "}")
+write(model/row.cpp "#include \"row.h\"" "void copy(Row &to, const Row &from)" "{" "    const auto [cells] = from\;" "    to.cells = cells\;" "    to = from\;" "}")
 expect_pass(checkclazy.cmake ${definitions})
 
 write(model/row.h "#pragma once" "struct Row {" "    Row(const Row &other) : cells(other.cells) {}" "    int cells = 0\;" "}\;")

@@ -7,7 +7,7 @@ write_compile_command(model/row.cpp)
 set(definitions FOLDER=model BUILD_DIR=${FIXTURE}/build TOOL=${CLANG_TIDY})
 
 write(model/row.h "#pragma once" "struct Row {" "    int *cells = nullptr\;" "}\;")
-write(model/row.cpp "#include \"row.h\"" "Row row()" "{" "    return {}\;" "}")
+write(model/row.cpp "#include \"row.h\"" "Row row()" "{" "    const auto [cells] = Row()\;" "    return {cells}\;" "}")
 expect_pass(checktidy.cmake ${definitions})
 
 write(model/row.h "#pragma once" "struct Row {" "    int *cells = 0\;" "}\;")
