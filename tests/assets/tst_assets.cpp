@@ -55,8 +55,8 @@ double contrast(const QColor &one, const QColor &other)
         return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
                0.0722 * linear(color.blueF());
     };
-    const auto [darker, lighter] = std::minmax(luminance(one), luminance(other));
-    return (lighter + 0.05) / (darker + 0.05);
+    const auto bounds = std::minmax({luminance(one), luminance(other)});
+    return (bounds.second + 0.05) / (bounds.first + 0.05);
 }
 
 /// The part of an image that is drawn upon.
@@ -178,8 +178,8 @@ void tst_Assets::arrowsAreReadableOnEveryGround()
     const QColor color = arrow.pixelColor(drawnArea(arrow).center());
 
     QCOMPARE(color.alpha(), 255);
-    QVERIFY(contrast(color, QColor("#454545")) >= 4.5);
-    QVERIFY(contrast(color, QColor("#6F6F6F")) >= 3);
+    QVERIFY(contrast(color, QColor(0x45, 0x45, 0x45)) >= 4.5);
+    QVERIFY(contrast(color, QColor(0x6f, 0x6f, 0x6f)) >= 3);
 }
 
 BOARDWRIGHT_TEST_MAIN(tst_Assets)

@@ -53,6 +53,7 @@ private slots:
 
     void sheetIsParsedWithoutAWarning();
     void sheetIsPlainAscii();
+    void rulesStandInTheirOrder_data();
     void rulesStandInTheirOrder();
     void declarationsWithoutVisibleEffectStand_data();
     void declarationsWithoutVisibleEffectStand();
@@ -115,7 +116,8 @@ QVector<QPair<QString, QStringList>> rules()
     while (matches.hasNext()) {
         const QRegularExpressionMatch match = matches.next();
         QStringList settings;
-        for (const QString &setting : match.captured(2).split(';'))
+        const QStringList parts = match.captured(2).split(';');
+        for (const QString &setting : parts)
             settings << setting.simplified();
         settings.removeAll(QString());
         list << qMakePair(match.captured(1).simplified(), settings);
@@ -259,78 +261,33 @@ void addWidgetRows(const QVector<QByteArray> &classes)
         QTest::newRow(kind.constData()) << kind;
 }
 
+template <typename Widget>
+QWidget *make()
+{
+    return new Widget;
+}
+
 std::unique_ptr<QWidget> made(const QByteArray &kind)
 {
-    using Maker = std::function<QWidget *()>;
+    using Maker = QWidget *(*)();
     static const QHash<QByteArray, Maker> makers = {
-        {"QWidget",
-         [] {
-             return new QWidget;
-         }},
-        {"QLabel",
-         [] {
-             return new QLabel;
-         }},
-        {"QLineEdit",
-         [] {
-             return new QLineEdit;
-         }},
-        {"QSpinBox",
-         [] {
-             return new QSpinBox;
-         }},
-        {"QDoubleSpinBox",
-         [] {
-             return new QDoubleSpinBox;
-         }},
-        {"QPushButton",
-         [] {
-             return new QPushButton;
-         }},
-        {"QToolButton",
-         [] {
-             return new QToolButton;
-         }},
-        {"QCheckBox",
-         [] {
-             return new QCheckBox;
-         }},
-        {"QComboBox",
-         [] {
-             return new QComboBox;
-         }},
-        {"QSlider",
-         [] {
-             return new QSlider;
-         }},
-        {"QSplitter",
-         [] {
-             return new QSplitter;
-         }},
-        {"QMenu",
-         [] {
-             return new QMenu;
-         }},
-        {"QMenuBar",
-         [] {
-             return new QMenuBar;
-         }},
-        {"QScrollArea",
-         [] {
-             return new QScrollArea;
-         }},
-        {"QTextEdit",
-         [] {
-             return new QTextEdit;
-         }},
-        {"QTreeWidget",
-         [] {
-             return new QTreeWidget;
-         }},
-        {"ToolBarItem",
-         [] {
-             return new ToolBarItem;
-         }},
+        {"QWidget", make<QWidget>},
+        {"QLabel", make<QLabel>},
+        {"QLineEdit", make<QLineEdit>},
+        {"QSpinBox", make<QSpinBox>},
+        {"QDoubleSpinBox", make<QDoubleSpinBox>},
+        {"QPushButton", make<QPushButton>},
+        {"QToolButton", make<QToolButton>},
+        {"QCheckBox", make<QCheckBox>},
+        {"QComboBox", make<QComboBox>},
+        {"QSlider", make<QSlider>},
+        {"QSplitter", make<QSplitter>},
+        {"QMenu", make<QMenu>},
+        {"QMenuBar", make<QMenuBar>},
+        {"QScrollArea", make<QScrollArea>},
+        {"QTextEdit", make<QTextEdit>},
+        {"QTreeWidget", make<QTreeWidget>},
+        {"ToolBarItem", make<ToolBarItem>},
     };
     return std::unique_ptr<QWidget>(makers.value(kind)());
 }
@@ -376,7 +333,7 @@ void tst_ApplicationStyle::fileReplacesTheSheet()
     QCOMPARE(qApp->styleSheet(), QStringLiteral(u"QLabel{color:#123456} /* \u00e9 */"));
     QLabel label;
     label.ensurePolished();
-    QCOMPARE(label.palette().color(label.foregroundRole()), QColor("#123456"));
+    QCOMPARE(label.palette().color(label.foregroundRole()), QColor(0x12, 0x34, 0x56));
 }
 
 void tst_ApplicationStyle::fileIsCutAtItsFirstZeroByte()
@@ -426,43 +383,55 @@ void tst_ApplicationStyle::sheetIsPlainAscii()
 }
 
 // Rules of the same weight win by standing later, and some spellings match nothing on purpose.
+void tst_ApplicationStyle::rulesStandInTheirOrder_data()
+{
+    QTest::addColumn<int>("place");
+    QTest::addColumn<QString>("selectors");
+
+    const char *const hover =
+        "QPushButton:hover, QToolButton:hover, ToolBarItem:hover, QMenuBar::item:selected, "
+        "QMenu::item:selected, QComboBox::drop-down:hover, QAbstractSpinBox::up-button:hover, "
+        "QAbstractSpinBox::down-button:hover";
+    const char *const expected[] = {
+        "QLineEdit,QAbstractSpinBox,QLabel,QWidget, QToolTip",
+        "QLineEdit,QAbstractSpinBox,QToolTip",
+        "QAbstractSpinBox::up-button",
+        "QAbstractSpinBox::down-button",
+        "QLabel,QSlider,QSplitter,QTabBa",
+        "QComboBox",
+        "QComboBox::drop-down",
+        "QLineEdit,QAbstractSpinBox,QPushButton",
+        hover,
+        "QMenuBar::item, QMenu::item",
+        "QMenuBar::item:pressed, QMenu::item:pressed",
+        "QScrollBar",
+        "QScrollBar::add-line, QScrollBar::sub-line, QScrollBar::add-page, QScrollBar::sub-page",
+        "QScrollBar::handle",
+        "QScrollBar:vertical",
+        "QScrollBar:horizontal",
+        "QScrollArea",
+        "QScrollArea, QAbstractScrollArea, QWidget[isScrollArea=\"true\"]",
+        "*",
+        "QMenu",
+        "#ItemType",
+        "QDockWidget",
+        "QMainWindow::separator::vertical",
+        "QMainWindow::separator::horizontal",
+        "QToolButton",
+        "QToolButton:hover",
+    };
+    int place = 0;
+    for (const char *selectors : expected)
+        QTest::newRow(selectors) << place++ << QString(selectors);
+}
+
 void tst_ApplicationStyle::rulesStandInTheirOrder()
 {
-    QStringList selectors;
-    const auto all = rules();
-    for (const auto &rule : all)
-        selectors << rule.first;
+    QFETCH(int, place);
+    QFETCH(QString, selectors);
 
-    QCOMPARE(selectors, QStringList({"QLineEdit,QAbstractSpinBox,QLabel,QWidget, QToolTip",
-                                     "QLineEdit,QAbstractSpinBox,QToolTip",
-                                     "QAbstractSpinBox::up-button",
-                                     "QAbstractSpinBox::down-button",
-                                     "QLabel,QSlider,QSplitter,QTabBa",
-                                     "QComboBox",
-                                     "QComboBox::drop-down",
-                                     "QLineEdit,QAbstractSpinBox,QPushButton",
-                                     "QPushButton:hover, QToolButton:hover, ToolBarItem:hover, "
-                                     "QMenuBar::item:selected, QMenu::item:selected, "
-                                     "QComboBox::drop-down:hover, QAbstractSpinBox::up-button:hover, "
-                                     "QAbstractSpinBox::down-button:hover",
-                                     "QMenuBar::item, QMenu::item",
-                                     "QMenuBar::item:pressed, QMenu::item:pressed",
-                                     "QScrollBar",
-                                     "QScrollBar::add-line, QScrollBar::sub-line, QScrollBar::add-page, "
-                                     "QScrollBar::sub-page",
-                                     "QScrollBar::handle",
-                                     "QScrollBar:vertical",
-                                     "QScrollBar:horizontal",
-                                     "QScrollArea",
-                                     "QScrollArea, QAbstractScrollArea, QWidget[isScrollArea=\"true\"]",
-                                     "*",
-                                     "QMenu",
-                                     "#ItemType",
-                                     "QDockWidget",
-                                     "QMainWindow::separator::vertical",
-                                     "QMainWindow::separator::horizontal",
-                                     "QToolButton",
-                                     "QToolButton:hover"}));
+    QCOMPARE(rules().size(), 26);
+    QCOMPARE(rules().at(place).first, selectors);
 }
 
 void tst_ApplicationStyle::declarationsWithoutVisibleEffectStand_data()
@@ -611,7 +580,7 @@ void tst_ApplicationStyle::quietWidgetsShowWhatIsBehindThem()
     QWidget parent;
     QWidget *widget = made(kind).release();
     if (auto *frame = qobject_cast<QFrame *>(widget))
-        frame->setFrameStyle(QFrame::Box | QFrame::Plain);
+        frame->setFrameShape(QFrame::Box);
     putOnGround(parent, *widget);
 
     const QImage shot = picture(parent);
