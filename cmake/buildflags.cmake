@@ -18,6 +18,10 @@ if(BOARDWRIGHT_SANITIZE)
     add_link_options(-fsanitize=address,undefined)
 endif()
 
+if(BOARDWRIGHT_FUZZERS)
+    add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
+
 add_library(boardwright_flags INTERFACE)
 target_link_libraries(boardwright_flags INTERFACE boardwright_warnings)
 target_compile_definitions(boardwright_flags INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII)

@@ -1,0 +1,44 @@
+#include "assets/assets.h"
+#include "canvas/screen.h"
+#include "canvas/screenpicture.h"
+
+#include <QApplication>
+#include <QJsonDocument>
+
+#include <cstdint>
+#include <cstdlib>
+
+namespace
+{
+void ignoreMessages(QtMsgType, const QMessageLogContext &, const QString &) {}
+
+QJsonObject reloaded(Screen &screen, const QJsonObject &layout)
+{
+    screen.loadLayout(layout);
+    return screen.saveLayout();
+}
+} // namespace
+
+extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qInstallMessageHandler(ignoreMessages);
+    static QApplication application(*argc, *argv);
+    initAssets();
+    return 0;
+}
+
+/// Any bytes are loaded as a layout and painted. A first load may clamp items; after it nothing changes any more.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    const QByteArray bytes = QByteArray::fromRawData(reinterpret_cast<const char *>(data), int(size));
+    Screen screen;
+    const QJsonObject first = reloaded(screen, QJsonDocument::fromJson(bytes).object());
+    const QJsonObject second = reloaded(screen, first);
+    if (reloaded(screen, second) != second)
+        std::abort();
+    if (screen.width() <= 2000 && screen.height() <= 2000)
+        pictureOf(screen);
+    QCoreApplication::processEvents();
+    return 0;
+}
