@@ -5,9 +5,9 @@
 namespace
 {
 /// A spacing that nobody has set is the one that the item's style wants between two push buttons.
-int spacingOrStyled(int spacing, const QLayoutItem *item, Qt::Orientation orientation)
+int spacingOrStyled(int spacing, QLayoutItem *item, Qt::Orientation orientation)
 {
-    const QWidget *widget = const_cast<QLayoutItem *>(item)->widget();
+    const QWidget *widget = item->widget();
     if (spacing != -1 || !widget)
         return spacing;
     return widget->style()->layoutSpacing(QSizePolicy::PushButton, QSizePolicy::PushButton, orientation);
