@@ -28,9 +28,12 @@ bool dragsBottom(HitZone zone)
     return zone == HitZone::BottomLeft || zone == HitZone::Bottom || zone == HitZone::BottomRight;
 }
 
-int fittingLength(int wanted, int room)
+/// The room from the position to the screen's far edge, which for a frame past the near edge exceeds the
+/// screen.
+int fittingLength(int wanted, int position, int screenLength)
 {
-    return qMax(FrameGeometry::minimumLength, qMin(wanted, room));
+    const int longest = qMin(screenLength - position, screenLength);
+    return qMax(FrameGeometry::minimumLength, qMin(wanted, longest));
 }
 
 int fittingPosition(int wanted, int length, int screenLength)
@@ -119,8 +122,13 @@ QSize FrameGeometry::draggedSize(const ResizeDrag &drag)
         wanted.setHeight(drag.pointer.y());
     else if (dragsTop(drag.zone))
         wanted.rheight() -= drag.corner.y() - drag.frame.y();
-    return {fittingLength(wanted.width(), drag.screen.width() - drag.frame.x()),
-            fittingLength(wanted.height(), drag.screen.height() - drag.frame.y())};
+    return {fittingLength(wanted.width(), drag.frame.x(), drag.screen.width()),
+            fittingLength(wanted.height(), drag.frame.y(), drag.screen.height())};
+}
+
+QSize FrameGeometry::keptSize(QSize size, QSize screen)
+{
+    return size.boundedTo(screen).expandedTo(QSize(minimumLength, minimumLength));
 }
 
 QPoint FrameGeometry::draggedPosition(const ResizeDrag &drag, QSize size)

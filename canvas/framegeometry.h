@@ -8,18 +8,7 @@
 // a screen is the rectangle from (0, 0) to its size.
 
 /// The part of a frame that the mouse is over, clockwise from the top left corner.
-enum class HitZone {
-    None,
-    Interior,
-    TopLeft,
-    Top,
-    TopRight,
-    Right,
-    BottomRight,
-    Bottom,
-    BottomLeft,
-    Left
-};
+enum class HitZone { None, Interior, TopLeft, Top, TopRight, Right, BottomRight, Bottom, BottomLeft, Left };
 
 namespace FrameGeometry
 {
@@ -35,8 +24,8 @@ Qt::CursorShape cursorFor(HitZone zone);
 /// The size that a frame of this geometry is cut to, so that it ends at the screen's right and bottom edges.
 QSize clampedSize(const QRect &frame, QSize screen);
 
-/// The part of the wanted move that keeps a group of frames on the screen. The far edge of the bounding box is
-/// its left plus its width. Left and top win when the group is larger than the screen.
+/// The part of the wanted move that keeps a group of frames on the screen. The far edge of the bounding box
+/// is its left plus its width. Left and top win when the group is larger than the screen.
 QPoint groupMove(const QRect &boundingBox, QPoint wanted, QSize screen);
 
 /// A drag of a frame's edge or corner, as it stands at one mouse move.
@@ -50,6 +39,10 @@ struct ResizeDrag {
 
 /// The size that the drag asks for.
 QSize draggedSize(const ResizeDrag &drag);
+
+/// What a drag leaves of the size that a frame has got: no longer than the screen, no shorter than the
+/// minimum.
+QSize keptSize(QSize size, QSize screen);
 
 /// The position for a frame that has got the given size out of the drag, wholly on the screen where it fits.
 QPoint draggedPosition(const ResizeDrag &drag, QSize size);

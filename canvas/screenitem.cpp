@@ -32,12 +32,23 @@ QPoint arrowStep(int key)
     }
 }
 
+/// Counts frames without a width or height as well, which united rectangles would leave out.
 QRect boundingBox(const QList<ScreenItem *> &frames)
 {
-    QRect box;
-    for (const ScreenItem *frame : frames)
-        box = box.isNull() ? frame->geometry() : box.united(frame->geometry());
-    return box;
+    QPoint nearest = frames.first()->pos();
+    QPoint farthest = nearest;
+    for (const ScreenItem *frame : frames) {
+        nearest = {qMin(nearest.x(), frame->x()), qMin(nearest.y(), frame->y())};
+        farthest = {qMax(farthest.x(), frame->x() + frame->width()),
+                    qMax(farthest.y(), frame->y() + frame->height())};
+    }
+    return {nearest, QSize(farthest.x() - nearest.x(), farthest.y() - nearest.y())};
+}
+
+/// A name as a menu shows it: a single ampersand would vanish as the mark of a shortcut key.
+QString menuText(QString name)
+{
+    return name.replace(QLatin1Char('&'), QLatin1String("&&"));
 }
 } // namespace
 
@@ -55,6 +66,7 @@ ScreenItem::ScreenItem(Screen *screen)
     setFocusPolicy(Qt::ClickFocus);
     setFocus(Qt::OtherFocusReason);
     m_layout = new QVBoxLayout(this);
+    m_layout->setContentsMargins(0, 0, 0, 0);
     // The focus just taken does not make a new frame the active one.
     m_active = false;
 }
@@ -82,7 +94,6 @@ void ScreenItem::setContent(ContentViewer *content)
         content->setAttribute(Qt::WA_TransparentForMouseEvents);
         content->show();
         m_layout->addWidget(content);
-        m_layout->setContentsMargins(0, 0, 0, 0);
         connect(this, SIGNAL(newGeometry(QRect)), content, SLOT(newGeometrySlot(QRect)));
         connect(content, SIGNAL(valueChanged(QString, QVariant)), this,
                 SIGNAL(valueChanged(QString, QVariant)));
@@ -92,8 +103,10 @@ void ScreenItem::setContent(ContentViewer *content)
 
 void ScreenItem::attachToScreen(Screen *screen)
 {
-    if (screen)
-        screen->addScreenItem(this);
+    if (!screen)
+        return;
+    screen->addScreenItem(this);
+    m_border->resize(size());
 }
 
 Screen *ScreenItem::canvas() const
@@ -264,7 +277,7 @@ void ScreenItem::sendToLayerUp()
 void ScreenItem::becomeActive()
 {
     m_active = true;
-    canvas()->repaint();
+    canvas()->repaint(geometry());
     emit inFocus(true);
 }
 
@@ -336,8 +349,8 @@ void ScreenItem::showContextMenu(QPoint position)
     const QPointer<ScreenItem> guard(this);
     m_contextMenuOpen = true;
     nameMenuActions();
-    // The see-through sheet of the area around the canvas reaches down to here. The application's sheet, given to
-    // the menu itself, has the last word.
+    // The see-through sheet of the area around the canvas reaches down to here. The application's sheet,
+    // given to the menu itself, has the last word.
     m_contextMenu->setStyleSheet(qApp->styleSheet());
     m_contextMenu->exec(mapToGlobal(position));
     if (guard)
@@ -347,8 +360,9 @@ void ScreenItem::showContextMenu(QPoint position)
 void ScreenItem::nameMenuActions()
 {
     const bool several = canvas()->selection().size() >= 2;
-    m_duplicateAction->setText(several ? tr("Duplicate Layers") : tr("Duplicate Layer \"%1\"").arg(m_name));
-    m_deleteAction->setText(several ? tr("Delete Layers") : tr("Delete Layer \"%1\"").arg(m_name));
+    const QString name = menuText(m_name);
+    m_duplicateAction->setText(several ? tr("Duplicate Layers") : tr("Duplicate Layer \"%1\"").arg(name));
+    m_deleteAction->setText(several ? tr("Delete Layers") : tr("Delete Layer \"%1\"").arg(name));
 }
 
 void ScreenItem::mouseMoveEvent(QMouseEvent *event)
@@ -370,7 +384,7 @@ void ScreenItem::mouseMoveEvent(QMouseEvent *event)
         moveSelection(corner);
     else {
         if (m_hitZone == HitZone::None)
-            canvas()->repaint();
+            canvas()->repaint(geometry());
         emit newGeometry(geometry());
     }
 }
@@ -393,8 +407,11 @@ void ScreenItem::mouseDoubleClickEvent(QMouseEvent *event)
 
 void ScreenItem::trackHitZone(QPoint position)
 {
-    m_hitZone = FrameGeometry::hitZoneAt(position, geometry());
-    setCursor(FrameGeometry::cursorFor(m_hitZone));
+    const HitZone zone = FrameGeometry::hitZoneAt(position, geometry());
+    if (zone == m_hitZone)
+        return;
+    m_hitZone = zone;
+    setCursor(FrameGeometry::cursorFor(zone));
 }
 
 void ScreenItem::moveSelection(QPoint corner)
@@ -413,11 +430,11 @@ void ScreenItem::resizeByHandle(QPoint pointer, QPoint corner)
     Screen *screen = canvas();
     const QRect before = geometry();
     const FrameGeometry::ResizeDrag drag = {m_hitZone, before, screen->size(), pointer, corner};
-    const QSize wanted = FrameGeometry::draggedSize(drag);
-    resize(wanted);
+    resize(FrameGeometry::draggedSize(drag));
     // The frame's own clamp has had its say: the position is for the size that came out of it.
-    move(FrameGeometry::draggedPosition(drag, size()));
-    resize(size().expandedTo(QSize(FrameGeometry::minimumLength, FrameGeometry::minimumLength)));
+    const QSize kept = FrameGeometry::keptSize(size(), screen->size());
+    move(FrameGeometry::draggedPosition(drag, kept));
+    resize(kept);
     screen->repaint(before.united(geometry()));
     emit newGeometry(geometry());
 }
@@ -456,6 +473,8 @@ void ScreenItem::deleteByKey()
 void ScreenItem::nudgeSelection(int key)
 {
     const QPoint step = arrowStep(key);
+    if (step.isNull())
+        return;
     const QList<ScreenItem *> selection = canvas()->selection();
     for (ScreenItem *frame : selection)
         frame->move(frame->pos() + step);
