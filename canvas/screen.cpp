@@ -34,14 +34,22 @@ QString dragFormat()
     return QStringLiteral("screen/screenItem");
 }
 
-/// Hides the canvas while many items are made on it and shows it again: a visible canvas would repaint for each.
+/// Hides the canvas while many items are made on it and shows it again: a visible canvas would repaint for
+/// each.
 class HiddenWhileFilling
 {
 public:
-    HiddenWhileFilling(QWidget &canvas, qptrdiff itemCount) : m_canvas(canvas), m_hides(itemCount > 1 && canvas.isVisible())
+    HiddenWhileFilling(QWidget &canvas, qptrdiff itemCount)
+        : m_canvas(canvas),
+          m_hides(itemCount > 1 && canvas.isVisible())
     {
-        if (m_hides)
-            m_canvas.hide();
+        if (!m_hides)
+            return;
+        // Hiding would hand the focus on to a neighbour of the canvas; the new items are about to take it
+        // anyway.
+        if (QWidget *focused = m_canvas.focusWidget())
+            focused->clearFocus();
+        m_canvas.hide();
     }
     ~HiddenWhileFilling()
     {
@@ -50,7 +58,8 @@ public:
     }
     Q_DISABLE_COPY(HiddenWhileFilling)
 
-    /// Delivers what new widgets have posted to themselves, now and then: the toolkit searches the queue often.
+    /// Delivers what new widgets have posted to themselves, now and then: the toolkit searches the queue
+    /// often.
     void itemMade()
     {
         if (++m_itemsMade % 200 != 0)
@@ -212,9 +221,10 @@ QJsonObject Screen::saveLayout()
     QJsonArray items;
     for (ScreenItem *item : qAsConst(m_items))
         items.append(item->toJson());
-    const QJsonObject parameters = {{Keys::height(), height()},
-                                    {Keys::width(), width()},
-                                    {Keys::backgroundColor(), m_backgroundColor.toRgb().name(QColor::HexRgb)}};
+    const QJsonObject parameters = {
+        {Keys::height(), height()},
+        {Keys::width(), width()},
+        {Keys::backgroundColor(), m_backgroundColor.toRgb().name(QColor::HexRgb)}};
     return {{Keys::items(), items}, {Keys::parameters(), parameters}};
 }
 
@@ -254,7 +264,7 @@ QList<ScreenItem *> Screen::createItems(const QJsonArray &objects)
     const auto readable = std::count_if(objects.begin(), objects.end(), [](const QJsonValue &object) {
         return ContentFactory::isReadable(object.toObject().value(Keys::type()).toString());
     });
-    HiddenWhileFilling hidden(*this, readable);
+    HiddenWhileFilling hidden(*this, qMin<qptrdiff>(readable, maximumItems - m_items.size()));
     QList<ScreenItem *> made;
     for (const QJsonValue &object : objects) {
         if (ScreenItem *item = createItem(object.toObject())) {
@@ -269,7 +279,9 @@ void Screen::screenItemDeleted(QObject *item)
 {
     m_modified = true;
     // The item is no frame any more, only its address counts.
-    const auto isItem = [item](ScreenItem *listed) { return static_cast<QObject *>(listed) == item; };
+    const auto isItem = [item](ScreenItem *listed) {
+        return static_cast<QObject *>(listed) == item;
+    };
     const auto layer = std::find_if(m_items.begin(), m_items.end(), isItem);
     if (layer != m_items.end())
         m_items.erase(layer);
@@ -300,6 +312,8 @@ void Screen::changeSize(QSize size)
     if (possible != this->size())
         m_modified = true;
     setFixedSize(possible);
+    // When both lengths are the largest possible ones, fixing the size leaves it as it was.
+    resize(possible);
 }
 
 void Screen::setBackgrounColor(QColor color)
@@ -395,8 +409,9 @@ ScreenItem *Screen::newFrame(QPoint position)
 void Screen::deleteAllItems()
 {
     m_selection.clear();
+    // A frame that goes takes itself off the list, where it is found at once while it is the first.
     while (!m_items.isEmpty())
-        delete m_items.takeFirst();
+        delete m_items.constFirst();
 }
 
 void Screen::deleteSelection()

@@ -13,6 +13,19 @@ bool isPaintable(QSize size)
     return size.width() <= maximumSide && size.height() <= maximumSide &&
            qint64(size.width()) * size.height() <= maximumArea;
 }
+
+/// One pixel of the picture for each of the screen; grab() would multiply them on a scaled desktop. Without
+/// the window's background, so that a translucent board looks alike in the editor and in a batch.
+QPixmap painted(Screen &screen)
+{
+    QPixmap picture(screen.size());
+    if (picture.isNull())
+        return picture;
+    if (screen.backgroundColor().alpha() < 255)
+        picture.fill(Qt::transparent);
+    screen.render(&picture, QPoint(), QRegion(), QWidget::DrawChildren | QWidget::IgnoreMask);
+    return picture;
+}
 } // namespace
 
 QPixmap pictureOf(Screen &screen)
@@ -20,7 +33,7 @@ QPixmap pictureOf(Screen &screen)
     if (!isPaintable(screen.size()))
         return {};
     screen.goToRenderMode();
-    const QPixmap picture = screen.grab();
+    const QPixmap picture = painted(screen);
     screen.goOutRenderMode();
     return picture;
 }

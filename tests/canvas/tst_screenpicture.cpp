@@ -1,0 +1,142 @@
+#include "canvas/screen.h"
+#include "canvas/screenitem.h"
+#include "canvas/screenpicture.h"
+#include "tests/canvas/shownscreen.h"
+#include "tests/support/boards.h"
+#include "tests/support/strictmain.h"
+
+#include <QImage>
+#include <QPixmap>
+
+class tst_ScreenPicture : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void hasTheScreensSize_data();
+    void hasTheScreensSize();
+    void isTheBackgroundWithoutGrid();
+    void showsNoEditingBorder();
+    void isTheSameInViewAndNeverShown();
+    void stacksItemsInLayerOrder();
+    void keepsATranslucentBackground();
+    void putsTheScreenBackIntoEditMode();
+    void isNullWhereNoPictureCanBe_data();
+    void isNullWhereNoPictureCanBe();
+};
+
+namespace
+{
+QJsonObject sized(int width, int height, const QString &color = "#102030")
+{
+    return {{"Background Color", color}, {"Width", width}, {"Height", height}};
+}
+
+QJsonArray twoShapes()
+{
+    return {shapeObject("Below", QRect(10, 10, 100, 60)),
+            shapeObject("Above", QRect(50, 30, 100, 60), {{"Color", "blue"}, {"Opacity", 100}})};
+}
+
+QImage pictureOfLayout(const QJsonObject &layout)
+{
+    Screen screen;
+    screen.loadLayout(layout);
+    return pictureOf(screen).toImage();
+}
+} // namespace
+
+void tst_ScreenPicture::hasTheScreensSize_data()
+{
+    QTest::addColumn<int>("width");
+    QTest::addColumn<int>("height");
+    QTest::newRow("start") << 800 << 400;
+    QTest::newRow("perimeter strip") << 1920 << 96;
+    QTest::newRow("one pixel") << 1 << 1;
+    QTest::newRow("as wide as the painter goes") << 32767 << 2;
+}
+
+void tst_ScreenPicture::hasTheScreensSize()
+{
+    QFETCH(int, width);
+    QFETCH(int, height);
+    const QImage picture = pictureOfLayout(board({}, sized(width, height)));
+    QCOMPARE(picture.size(), QSize(width, height));
+    QCOMPARE(picture.devicePixelRatio(), 1.0);
+    QCOMPARE(picture.pixelColor(width - 1, height - 1), QColor("#102030"));
+}
+
+void tst_ScreenPicture::isTheBackgroundWithoutGrid()
+{
+    QImage plain(100, 50, QImage::Format_RGB32);
+    plain.fill(QColor("#102030"));
+    QCOMPARE(pictureOfLayout(board({}, sized(100, 50))).convertToFormat(QImage::Format_RGB32), plain);
+}
+
+void tst_ScreenPicture::showsNoEditingBorder()
+{
+    ShownScreen shown;
+    QVERIFY(shown.ready);
+    shown.screen.loadLayout(board(twoShapes()));
+    const QImage before = pictureOf(shown.screen).toImage();
+    shown.screen.items().first()->activate();
+    shown.screen.selectAllShortcutActivated();
+    QCOMPARE(pictureOf(shown.screen).toImage(), before);
+    QVERIFY(shown.screen.grab().toImage() != before);
+}
+
+void tst_ScreenPicture::isTheSameInViewAndNeverShown()
+{
+    ShownScreen shown;
+    QVERIFY(shown.ready);
+    shown.screen.loadLayout(board(twoShapes()));
+    QCOMPARE(pictureOf(shown.screen).toImage(), pictureOfLayout(board(twoShapes())));
+}
+
+void tst_ScreenPicture::stacksItemsInLayerOrder()
+{
+    const QImage picture = pictureOfLayout(board(twoShapes()));
+    QCOMPARE(picture.pixelColor(80, 50), QColor("blue"));
+    QVERIFY(picture.pixelColor(30, 30) != QColor("blue"));
+    QCOMPARE(picture.pixelColor(300, 300), QColor("black"));
+}
+
+void tst_ScreenPicture::keepsATranslucentBackground()
+{
+    const QImage picture = pictureOfLayout(board(twoShapes(), sized(200, 100, "transparent")));
+    QCOMPARE(picture.pixelColor(0, 0).alpha(), 0);
+    QCOMPARE(picture.pixelColor(80, 50), QColor("blue"));
+}
+
+void tst_ScreenPicture::putsTheScreenBackIntoEditMode()
+{
+    ShownScreen shown;
+    QVERIFY(shown.ready);
+    shown.screen.loadLayout(board(twoShapes()));
+    const QImage before = shown.screen.grab().toImage();
+    pictureOf(shown.screen);
+    QVERIFY(!shown.screen.items().first()->isInRenderMode());
+    QCOMPARE(shown.screen.grab().toImage(), before);
+    QVERIFY(!shown.screen.isModified());
+}
+
+void tst_ScreenPicture::isNullWhereNoPictureCanBe_data()
+{
+    QTest::addColumn<int>("width");
+    QTest::addColumn<int>("height");
+    QTest::newRow("no area") << 0 << 0;
+    QTest::newRow("no height") << 800 << 0;
+    QTest::newRow("wider than the painter goes") << 32768 << 1;
+    QTest::newRow("as large as a widget gets") << 16777215 << 16777215;
+    QTest::newRow("more area than memory should give") << 32767 << 32767;
+}
+
+void tst_ScreenPicture::isNullWhereNoPictureCanBe()
+{
+    QFETCH(int, width);
+    QFETCH(int, height);
+    QVERIFY(pictureOfLayout(board(twoShapes(), sized(width, height))).isNull());
+}
+
+BOARDWRIGHT_TEST_MAIN(tst_ScreenPicture)
+#include "tst_screenpicture.moc"
