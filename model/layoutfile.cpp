@@ -10,6 +10,9 @@ namespace
 /// More than any layout needs, and less than the toolkit's byte array can hold.
 constexpr qint64 maximumBytes = 1024 * 1024 * 1024;
 
+/// A buffer would keep the reason of a failure from us.
+constexpr QIODevice::OpenMode unbuffered = QIODevice::WriteOnly | QIODevice::Unbuffered;
+
 QString text(const char *sourceText)
 {
     return QCoreApplication::translate("LayoutFile", sourceText);
@@ -25,32 +28,53 @@ QString whyNotReadable(const QFileInfo &info)
     return {};
 }
 
-QString writeAndClose(QFileDevice &file, const QByteArray &bytes)
+/// A disk that fills up takes a part without a complaint and tells why only when it is asked to take the
+/// rest.
+bool writeAll(QFileDevice &file, const QByteArray &bytes)
 {
-    if (file.write(bytes) != bytes.size() || !file.flush())
-        return file.errorString();
-    file.close();
-    return file.error() == QFileDevice::NoError ? QString() : file.errorString();
+    qint64 written = 0;
+    while (written < bytes.size()) {
+        const qint64 taken = file.write(bytes.constData() + written, bytes.size() - written);
+        if (taken <= 0)
+            return false;
+        written += taken;
+    }
+    return true;
 }
 
 QString writeInPlace(const QString &filePath, const QByteArray &bytes)
 {
     QFile file(filePath);
-    return file.open(QIODevice::WriteOnly) ? writeAndClose(file, bytes) : file.errorString();
+    if (!file.open(unbuffered) || !writeAll(file, bytes))
+        return file.errorString();
+    file.close();
+    return file.error() == QFileDevice::NoError ? QString() : file.errorString();
 }
 
-QString replace(QSaveFile &file, const QByteArray &bytes)
+/// The next best where no second file can stand beside the old one: after a failure the old bytes go back.
+QString overwrite(const QString &filePath, const QByteArray &bytes)
 {
-    file.write(bytes);
-    return file.commit() ? QString() : file.errorString();
+    QFile old(filePath);
+    const QByteArray oldBytes = old.open(QIODevice::ReadOnly) ? old.readAll() : QByteArray();
+    old.close();
+    const QString error = writeInPlace(filePath, bytes);
+    if (!error.isNull())
+        writeInPlace(filePath, oldBytes);
+    return error;
 }
 
-QString writeOpenable(const QString &filePath, const QByteArray &bytes)
+QString writeRegular(const QString &filePath, const QByteArray &bytes)
 {
-    // Links are followed to their end: the file is replaced, not the link to it.
-    QSaveFile file(QFileInfo(filePath).canonicalFilePath());
-    // A folder that takes no new file leaves no way but writing in place.
-    return file.open(QIODevice::WriteOnly) ? replace(file, bytes) : writeInPlace(filePath, bytes);
+    QSaveFile file(filePath);
+    if (file.open(unbuffered)) {
+        if (!writeAll(file, bytes))
+            return file.errorString();
+        if (file.commit())
+            return {};
+    }
+    // The folder takes no new file, or the name leaves no room for a suffix, or the old file cannot be
+    // replaced.
+    return overwrite(filePath, bytes);
 }
 } // namespace
 
@@ -62,8 +86,11 @@ LayoutFile::Document LayoutFile::read(const QString &filePath)
     QFile file(filePath);
     if (!file.open(QIODevice::ReadOnly))
         return {{}, file.errorString()};
+    const QByteArray bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError)
+        return {{}, file.errorString()};
     QJsonParseError parseError;
-    const QJsonDocument document = QJsonDocument::fromJson(file.readAll(), &parseError);
+    const QJsonDocument document = QJsonDocument::fromJson(bytes, &parseError);
     if (parseError.error != QJsonParseError::NoError)
         return {{}, parseError.errorString()};
     return {document.object(), {}};
@@ -71,7 +98,8 @@ LayoutFile::Document LayoutFile::read(const QString &filePath)
 
 QString LayoutFile::write(const QString &filePath, const QJsonObject &layout)
 {
-    const QFileInfo target(filePath);
+    QFileInfo target(filePath);
+    target.setCaching(false);
     const bool existed = target.exists();
     if (existed && !target.isFile())
         return writeInPlace(filePath, QJsonDocument(layout).toJson());
@@ -80,8 +108,10 @@ QString LayoutFile::write(const QString &filePath, const QJsonObject &layout)
     if (!probe.open(QIODevice::WriteOnly | QIODevice::Append))
         return probe.errorString();
     probe.close();
-    const QString error = writeOpenable(filePath, QJsonDocument(layout).toJson());
+    // Links are followed to their end: the file is replaced, not the link to it.
+    const QString finalPath = target.canonicalFilePath();
+    const QString error = writeRegular(finalPath, QJsonDocument(layout).toJson());
     if (!error.isNull() && !existed)
-        QFile::remove(filePath);
+        QFile::remove(finalPath);
     return error;
 }

@@ -28,10 +28,14 @@ void sendHeldGeometryEvents(QWidget *widget)
         QMoveEvent event(widget->pos(), widget->pos());
         QCoreApplication::sendEvent(widget, &event);
     }
-    // The handler of a resize may resize once more, which is held back again.
+    // The handler of a resize may resize once more, which is held back again, be it to the same size.
+    QSize told;
     while (widget->testAttribute(Qt::WA_PendingResizeEvent)) {
         widget->setAttribute(Qt::WA_PendingResizeEvent, false);
-        QResizeEvent event(widget->size(), widget->size());
+        if (widget->size() == told)
+            break;
+        told = widget->size();
+        QResizeEvent event(told, told);
         QCoreApplication::sendEvent(widget, &event);
     }
 }

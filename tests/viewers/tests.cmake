@@ -1,0 +1,3 @@
+boardwright_add_test(viewers/tst_contentfactory LINK boardwright_viewers)
+boardwright_add_test(viewers/tst_shapegeometry LINK boardwright_viewers)
+boardwright_add_test(viewers/tst_shapepainting LINK boardwright_viewers)
