@@ -1,0 +1,184 @@
+// bench-floor WORK ITEMS|WIDTH [MOVED|HEIGHT]: the work of bench-product done with bare widgets and no more.
+#include "assets/assets.h"
+#include "bench/board.h"
+#include "bench/floorcanvas.h"
+#include "bench/measure.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QImage>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QMainWindow>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QSaveFile>
+#include <QScrollArea>
+#include <QTemporaryDir>
+
+namespace
+{
+class Window : public QMainWindow
+{
+public:
+    Window() : m_canvas(new FloorCanvas)
+    {
+        auto *area = new QScrollArea;
+        area->setWidget(m_canvas);
+        setCentralWidget(area);
+        m_canvas->setFixedSize(800, 400);
+        resize(1000, 600);
+        show();
+        settle();
+    }
+    FloorCanvas &canvas() { return *m_canvas; }
+
+private:
+    FloorCanvas *m_canvas;
+};
+
+QJsonObject read(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(file.readAll()).object() : QJsonObject();
+}
+
+void open(int items)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("board.lay"));
+    BenchBoard::write(path, items, QSize(800, 400));
+    Window window;
+    report("cpu", cpuOf([&] { window.canvas().load(read(path)); }));
+}
+
+void save(int items)
+{
+    const QTemporaryDir folder;
+    Window window;
+    window.canvas().load(BenchBoard::layout(items, QSize(800, 400)));
+    settle();
+    const QString path = folder.filePath(QStringLiteral("saved.lay"));
+    report("cpu", cpuPerTurn(5, [&](int) {
+               QJsonArray objects;
+               for (const FloorShape &shape : window.canvas().shapes())
+                   objects.append(shape.toJson());
+               QSaveFile file(path);
+               file.open(QIODevice::WriteOnly);
+               file.write(QJsonDocument(QJsonObject{{QStringLiteral("items"), objects}}).toJson());
+               file.commit();
+           }));
+}
+
+void drag(int items, int moved)
+{
+    Window window;
+    FloorCanvas &canvas = window.canvas();
+    canvas.load(BenchBoard::layout(items, QSize(800, 400)));
+    settle();
+    report("cpu", cpuPerTurn(moved == 1 ? 200 : 20, [&](int turn) {
+               const QRect before = canvas.frames().first()->geometry();
+               for (int index = 0; index < moved; ++index) {
+                   QWidget *frame = canvas.frames().at(index);
+                   frame->move(frame->pos() + QPoint(turn % 2 ? -1 : 1, 0));
+               }
+               if (moved == 1)
+                   canvas.repaint(before.united(canvas.frames().first()->geometry()));
+               else
+                   canvas.repaint();
+               QCoreApplication::processEvents();
+           }));
+    report("repaint", cpuPerTurn(10, [&](int) { canvas.repaint(); }));
+}
+
+/// Paints the points of the grid that are known to be exposed.
+class GridCanvas : public QWidget
+{
+public:
+    explicit GridCanvas(const QRect &exposed)
+    {
+        setAttribute(Qt::WA_OpaquePaintEvent);
+        for (int y = (exposed.top() + 10) / 11 * 11; y <= exposed.bottom(); y += 11) {
+            for (int x = (exposed.left() + 10) / 11 * 11; x <= exposed.right(); x += 11)
+                m_points.append(QPoint(x, y));
+        }
+    }
+
+protected:
+    void paintEvent(QPaintEvent *event) override
+    {
+        QPainter painter(this);
+        painter.fillRect(event->rect(), Qt::black);
+        painter.setPen(QColor(50, 50, 50, 100));
+        painter.drawPoints(m_points.constData(), m_points.size());
+    }
+
+private:
+    QVector<QPoint> m_points;
+};
+
+void grid(QSize size)
+{
+    const QRect exposed(200, 200, 60, 60);
+    QScrollArea area;
+    auto *canvas = new GridCanvas(exposed);
+    canvas->setFixedSize(size);
+    area.setWidget(canvas);
+    area.resize(700, 500);
+    area.show();
+    settle();
+    report("cpu", cpuPerTurn(2000, [&](int) { canvas->repaint(exposed); }));
+}
+
+void deletion(int items)
+{
+    Window window;
+    window.canvas().load(BenchBoard::layout(items, QSize(800, 400)));
+    settle();
+    report("cpu", cpuOf([&] { window.canvas().deleteItems(); }));
+}
+
+void exportPicture(QSize size)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("board.png"));
+    Window window;
+    window.canvas().load(BenchBoard::layout(1000, size));
+    settle();
+    report("cpu", cpuPerTurn(3, [&](int) {
+               QImage image(size, QImage::Format_RGB32);
+               window.canvas().render(&image);
+               image.save(path);
+           }));
+}
+
+int run(const QString &work, int first, int second)
+{
+    if (work == QLatin1String("open"))
+        open(first);
+    else if (work == QLatin1String("save"))
+        save(first);
+    else if (work == QLatin1String("drag"))
+        drag(first, second);
+    else if (work == QLatin1String("grid"))
+        grid(QSize(first, second));
+    else if (work == QLatin1String("delete"))
+        deletion(first);
+    else if (work == QLatin1String("export"))
+        exportPicture(QSize(first, second));
+    else
+        return EXIT_FAILURE;
+    return EXIT_SUCCESS;
+}
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QApplication application(argc, argv);
+    initAssets();
+    QFile sheet(QStringLiteral(":/assets/style/style.qss"));
+    if (sheet.open(QIODevice::ReadOnly))
+        application.setStyleSheet(QString::fromLatin1(sheet.readAll()));
+    const QStringList arguments = QCoreApplication::arguments();
+    return run(arguments.value(1), arguments.value(2).toInt(), arguments.value(3).toInt());
+}
