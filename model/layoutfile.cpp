@@ -7,8 +7,9 @@
 
 namespace
 {
-/// More than any layout needs, and less than the toolkit's byte array can hold.
-constexpr qint64 maximumBytes = 1024 * 1024 * 1024;
+/// More than any layout needs. The parser may take 14 times a file's size, so a larger one could exhaust
+/// memory.
+constexpr qint64 maximumBytes = 256 * 1024 * 1024;
 
 /// A buffer would keep the reason of a failure from us.
 constexpr QIODevice::OpenMode unbuffered = QIODevice::WriteOnly | QIODevice::Unbuffered;
@@ -28,8 +29,7 @@ QString whyNotReadable(const QFileInfo &info)
     return {};
 }
 
-/// A disk that fills up takes a part without a complaint and tells why only when it is asked to take the
-/// rest.
+/// A disk that fills up takes a part in silence and tells why only when it is asked to take the rest.
 bool writeAll(QFileDevice &file, const QByteArray &bytes)
 {
     qint64 written = 0;
@@ -72,7 +72,7 @@ QString writeRegular(const QString &filePath, const QByteArray &bytes)
         if (file.commit())
             return {};
     }
-    // The folder takes no new file, or the name leaves no room for a suffix, or the old file cannot be
+    // The folder takes no new file, the name leaves no room for a suffix, or the old file is not to be
     // replaced.
     return overwrite(filePath, bytes);
 }

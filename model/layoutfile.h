@@ -7,10 +7,16 @@
 namespace LayoutFile
 {
 /// The file filter of the file dialogs.
-inline QString filter() { return QStringLiteral("Lay file (*.lay)"); }
+inline QString filter()
+{
+    return QStringLiteral("Lay file (*.lay)");
+}
 
 /// The empty layout that "New" opens.
-inline QString emptyTemplate() { return QStringLiteral(":/assets/resources/empty.lay"); }
+inline QString emptyTemplate()
+{
+    return QStringLiteral(":/assets/resources/empty.lay");
+}
 
 /// A read document, or why there is none.
 struct Document {
@@ -18,11 +24,13 @@ struct Document {
     QString error;      ///< null on success, else a text for the user
 };
 
-/// Reads and parses the file. Nothing of a file that is no JSON is kept.
+/// Reads and parses the file. Nothing of a file that is no JSON is kept. What may have no end (a device, a
+/// pipe) and what is larger than 256 MiB is refused unread.
 Document read(const QString &filePath);
 
 /// Writes the layout in the indented form and answers the error for the user, null on success.
 /// The file is either wholly new or wholly as it was: a regular file is replaced only after the last byte has
-/// reached the disk. Anything else that can be opened for writing (a device, a pipe) is written in place.
+/// reached the disk. Where a file cannot be replaced (its folder takes no new file) it is written in place,
+/// and its old bytes are put back after a failure. A device or a pipe is written in place as well.
 QString write(const QString &filePath, const QJsonObject &layout);
 } // namespace LayoutFile

@@ -341,7 +341,7 @@ void tst_LayoutFile::readsLargeGarbageToItsError()
 void tst_LayoutFile::refusesWhatIsFarTooLarge()
 {
     QFile file(put("huge.lay", "{}"));
-    QVERIFY(file.resize(1024LL * 1024 * 1024 * 1024));
+    QVERIFY(file.resize(256LL * 1024 * 1024 + 1));
     QCOMPARE(LayoutFile::read(file.fileName()).error, QString("The file is too large for a layout."));
 }
 
