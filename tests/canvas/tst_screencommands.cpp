@@ -1,0 +1,319 @@
+#include "canvas/itemclipboard.h"
+#include "canvas/screen.h"
+#include "canvas/screenitem.h"
+#include "tests/canvas/shownscreen.h"
+#include "tests/support/boards.h"
+#include "tests/support/strictmain.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QLoggingCategory>
+#include <QMimeData>
+
+/// The commands on selected items and on layers.
+class tst_ScreenCommands : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void selectsAllInLayerOrder();
+    void copiesInLayerOrder();
+    void leavesTheClipboardWhenNothingIsSelected();
+    void cutsTheSelection();
+    void pastesInPlaceAndSelects();
+    void pastesSomeOfAMixture();
+    void ignoresAForeignClipboard_data();
+    void ignoresAForeignClipboard();
+    void duplicatesTheSelectionOnTop();
+    void duplicatesNothingWithoutSelection();
+    void deletesTheFrameAndTheSelection();
+    void deletesTheFrameAlone();
+    void movesLayers_data();
+    void movesLayers();
+    void ignoresFramesThatAreNotListed();
+    void followsTheShortcuts();
+};
+
+namespace
+{
+/// A canvas with the layers A, B, C and D, bottom first, and no modification.
+class Board : public Screen
+{
+public:
+    explicit Board(QWidget *parent = nullptr) : Screen(parent)
+    {
+        loadLayout(board({shapeObject("A", QRect(10, 10, 60, 40)), shapeObject("B", QRect(30, 20, 60, 40)),
+                          shapeObject("C", QRect(50, 30, 60, 40)), shapeObject("D", QRect(70, 40, 60, 40))}));
+    }
+
+    ScreenItem *item(const QString &name) const
+    {
+        const auto found = std::find_if(items().begin(), items().end(),
+                                        [&name](const ScreenItem *item) { return item->name() == name; });
+        return found == items().end() ? nullptr : *found;
+    }
+
+    void select(const QStringList &names)
+    {
+        clearSelection();
+        for (const QString &name : names)
+            item(name)->select();
+    }
+
+    QStringList layers() const { return namesOf(items()); }
+    QStringList selected() const { return namesOf(selection()); }
+    bool isConsistent() const { return selectionIsConsistent(*this) && stackedNames(*this) == layers(); }
+};
+
+/// The frame's commands are private slots, addressed by name as its menu and the toolbar do.
+void command(ScreenItem *item, const char *slot)
+{
+    QVERIFY(QMetaObject::invokeMethod(item, slot, Qt::DirectConnection));
+}
+
+QStringList clipboardNames()
+{
+    QStringList names;
+    const QJsonArray items = ItemClipboard::items();
+    for (const QJsonValue &item : items)
+        names.append(item.toObject().value("ScreenItemName").toString());
+    return names;
+}
+
+void putOnClipboard(const QString &format, const QByteArray &bytes)
+{
+    auto *data = new QMimeData;
+    data->setData(format, bytes);
+    QGuiApplication::clipboard()->setMimeData(data);
+}
+} // namespace
+
+void tst_ScreenCommands::initTestCase()
+{
+    QLoggingCategory::setFilterRules("default.debug=false");
+}
+
+void tst_ScreenCommands::init()
+{
+    QGuiApplication::clipboard()->clear();
+}
+
+void tst_ScreenCommands::selectsAllInLayerOrder()
+{
+    Board board;
+    board.select({"C", "A"});
+    board.selectAllShortcutActivated();
+    QCOMPARE(board.selected(), QStringList({"A", "B", "C", "D"}));
+    QVERIFY(board.isConsistent());
+    QVERIFY(!board.isModified());
+}
+
+void tst_ScreenCommands::copiesInLayerOrder()
+{
+    Board board;
+    board.select({"D", "A", "C"});
+    board.copyShortcutActivated();
+    QCOMPARE(clipboardNames(), QStringList({"A", "C", "D"}));
+    QCOMPARE(ItemClipboard::items().first().toObject(), board.item("A")->toJson());
+    QCOMPARE(board.selected(), QStringList({"D", "A", "C"}));
+    QVERIFY(!board.isModified());
+}
+
+void tst_ScreenCommands::leavesTheClipboardWhenNothingIsSelected()
+{
+    Board board;
+    QGuiApplication::clipboard()->setText("Home 12");
+    board.copyShortcutActivated();
+    board.cutShortcutActivated();
+    deleteScheduled();
+    QCOMPARE(QGuiApplication::clipboard()->text(), QString("Home 12"));
+    QCOMPARE(board.layers(), QStringList({"A", "B", "C", "D"}));
+}
+
+void tst_ScreenCommands::cutsTheSelection()
+{
+    Board board;
+    board.select({"D", "B"});
+    board.cutShortcutActivated();
+    QCOMPARE(clipboardNames(), QStringList({"B", "D"}));
+    QVERIFY(board.selected().isEmpty());
+    QCOMPARE(board.layers().size(), 4);
+    QVERIFY(!board.isModified());
+    deleteScheduled();
+    QCOMPARE(board.layers(), QStringList({"A", "C"}));
+    QVERIFY(board.isModified());
+}
+
+void tst_ScreenCommands::pastesInPlaceAndSelects()
+{
+    Board board;
+    board.select({"C", "A"});
+    board.copyShortcutActivated();
+    board.select({"D"});
+    board.pasteShortcutActivated();
+    QCOMPARE(board.layers(), QStringList({"A", "B", "C", "D", "A", "C"}));
+    QCOMPARE(board.selection(), board.items().mid(4));
+    QCOMPARE(board.items().at(4)->toJson(), board.items().at(0)->toJson());
+    QCOMPARE(board.items().at(5)->toJson(), board.items().at(2)->toJson());
+    QVERIFY(board.isConsistent());
+    QVERIFY(board.isModified());
+    board.pasteShortcutActivated();
+    QCOMPARE(board.layers(), QStringList({"A", "B", "C", "D", "A", "C", "A", "C"}));
+    QCOMPARE(board.selection(), board.items().mid(6));
+}
+
+void tst_ScreenCommands::pastesSomeOfAMixture()
+{
+    Board board;
+    ItemClipboard::put({1, shapeObject("V", QRect(1, 2, 3, 4), {{"Type", "Video Viewer"}}),
+                        shapeObject("S", QRect(1, 2, 3, 4)), "Shape", QJsonObject()});
+    board.select({"A"});
+    board.pasteShortcutActivated();
+    QCOMPARE(board.selected(), QStringList("S"));
+    QCOMPARE(board.items().size(), 5);
+    QVERIFY(board.isConsistent());
+}
+
+void tst_ScreenCommands::ignoresAForeignClipboard_data()
+{
+    QTest::addColumn<QString>("format");
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("text") << "text/plain" << QByteArray("[{\"Type\": \"Shape\"}]");
+    QTest::newRow("no bytes") << "Screen/ItemsJson" << QByteArray();
+    QTest::newRow("no JSON") << "Screen/ItemsJson" << QByteArray("Home 12");
+    QTest::newRow("an object") << "Screen/ItemsJson" << QByteArray("{\"Type\": \"Shape\"}");
+    QTest::newRow("an empty array") << "Screen/ItemsJson" << QByteArray("[]");
+}
+
+void tst_ScreenCommands::ignoresAForeignClipboard()
+{
+    QFETCH(QString, format);
+    QFETCH(QByteArray, bytes);
+    Board board;
+    board.select({"B", "A"});
+    putOnClipboard(format, bytes);
+    board.pasteShortcutActivated();
+    QCOMPARE(board.layers(), QStringList({"A", "B", "C", "D"}));
+    QCOMPARE(board.selected(), QStringList({"B", "A"}));
+    QVERIFY(!board.isModified());
+}
+
+void tst_ScreenCommands::duplicatesTheSelectionOnTop()
+{
+    Board board;
+    board.select({"C", "A"});
+    command(board.item("B"), "duplicateSlot");
+    QCOMPARE(board.layers(), QStringList({"A", "B", "C", "D", "A duplicate", "C duplicate"}));
+    QCOMPARE(board.selected(), QStringList({"A duplicate", "C duplicate"}));
+    QCOMPARE(board.items().at(5)->geometry(), board.item("C")->geometry());
+    QCOMPARE(board.items().at(5)->getValues(), board.item("C")->getValues());
+    QVERIFY(board.isConsistent());
+    QVERIFY(board.isModified());
+}
+
+void tst_ScreenCommands::duplicatesNothingWithoutSelection()
+{
+    Board board;
+    command(board.item("B"), "duplicateSlot");
+    QCOMPARE(board.layers(), QStringList({"A", "B", "C", "D"}));
+    QVERIFY(board.selected().isEmpty());
+    QVERIFY(!board.isModified());
+}
+
+void tst_ScreenCommands::deletesTheFrameAndTheSelection()
+{
+    Board board;
+    board.select({"A", "C"});
+    command(board.item("B"), "deleteSlot");
+    QVERIFY(board.selected().isEmpty());
+    QVERIFY(board.isConsistent());
+    deleteScheduled();
+    QCOMPARE(board.layers(), QStringList("D"));
+    QVERIFY(board.isModified());
+}
+
+void tst_ScreenCommands::deletesTheFrameAlone()
+{
+    Board board;
+    command(board.item("B"), "deleteSlot");
+    deleteScheduled();
+    QCOMPARE(board.layers(), QStringList({"A", "C", "D"}));
+}
+
+void tst_ScreenCommands::movesLayers_data()
+{
+    QTest::addColumn<QByteArray>("slot");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QStringList>("layers");
+    QTest::addColumn<bool>("modified");
+    const QByteArray front("bringToFrontSlot");
+    const QByteArray back("sendToBackSlot");
+    const QByteArray up("sendToLayerUp");
+    const QByteArray down("sendToLayerDown");
+    QTest::newRow("bottom to front") << front << "A" << QStringList({"B", "C", "D", "A"}) << true;
+    QTest::newRow("middle to front") << front << "C" << QStringList({"A", "B", "D", "C"}) << true;
+    QTest::newRow("top to front") << front << "D" << QStringList({"A", "B", "C", "D"}) << true;
+    QTest::newRow("top to back") << back << "D" << QStringList({"D", "A", "B", "C"}) << true;
+    QTest::newRow("middle to back") << back << "B" << QStringList({"B", "A", "C", "D"}) << true;
+    QTest::newRow("bottom to back") << back << "A" << QStringList({"A", "B", "C", "D"}) << true;
+    QTest::newRow("bottom up") << up << "A" << QStringList({"B", "A", "C", "D"}) << true;
+    QTest::newRow("middle up") << up << "C" << QStringList({"A", "B", "D", "C"}) << true;
+    QTest::newRow("top up") << up << "D" << QStringList({"A", "B", "C", "D"}) << false;
+    QTest::newRow("top down") << down << "D" << QStringList({"A", "B", "D", "C"}) << true;
+    QTest::newRow("middle down") << down << "B" << QStringList({"B", "A", "C", "D"}) << true;
+    QTest::newRow("bottom down") << down << "A" << QStringList({"A", "B", "C", "D"}) << false;
+}
+
+void tst_ScreenCommands::movesLayers()
+{
+    QFETCH(QByteArray, slot);
+    QFETCH(QString, name);
+    Board board;
+    board.select({"A", "D"});
+    command(board.item(name), slot.constData());
+    QTEST(board.layers(), "layers");
+    QTEST(board.isModified(), "modified");
+    QCOMPARE(board.selected(), QStringList({"A", "D"}));
+    QVERIFY(board.isConsistent());
+}
+
+void tst_ScreenCommands::ignoresFramesThatAreNotListed()
+{
+    Board board;
+    ScreenItem stranger(nullptr);
+    for (const char *slot : {"bringToFrontSlot", "sendToBackSlot", "sendToLayerUp", "sendToLayerDown",
+                             "duplicateSlot", "deleteSlot"})
+        command(&stranger, slot);
+    board.moveLayerUp(&stranger);
+    board.moveLayerDown(&stranger);
+    QCOMPARE(board.layers(), QStringList({"A", "B", "C", "D"}));
+    QVERIFY(!board.isModified());
+}
+
+void tst_ScreenCommands::followsTheShortcuts()
+{
+    QWidget window;
+    Board board(&window);
+    QWidget neighbour(&window);
+    neighbour.setFocusPolicy(Qt::StrongFocus);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    neighbour.setFocus();
+    const auto strike = [&window](Qt::Key key) {
+        QTest::keyClick(window.windowHandle(), key, Qt::ControlModifier);
+    };
+    strike(Qt::Key_A);
+    QCOMPARE(board.selected(), QStringList({"A", "B", "C", "D"}));
+    strike(Qt::Key_C);
+    QCOMPARE(clipboardNames(), QStringList({"A", "B", "C", "D"}));
+    strike(Qt::Key_V);
+    QCOMPARE(board.items().size(), 8);
+    strike(Qt::Key_X);
+    QTRY_COMPARE(board.layers(), QStringList({"A", "B", "C", "D"}));
+    QVERIFY(board.selected().isEmpty());
+}
+
+BOARDWRIGHT_TEST_MAIN(tst_ScreenCommands)
+#include "tst_screencommands.moc"
