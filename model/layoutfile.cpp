@@ -55,7 +55,7 @@ QString writeInPlace(const QString &filePath, const QByteArray &bytes)
 QString overwrite(const QString &filePath, const QByteArray &bytes)
 {
     QFile old(filePath);
-    const QByteArray oldBytes = old.open(QIODevice::ReadOnly) ? old.readAll() : QByteArray();
+    const QByteArray oldBytes = old.open(QIODevice::ReadOnly) ? old.read(old.size()) : QByteArray();
     old.close();
     const QString error = writeInPlace(filePath, bytes);
     if (!error.isNull())
