@@ -53,8 +53,11 @@ public:
     }
     ~HiddenWhileFilling()
     {
-        if (m_hides)
-            m_canvas.show();
+        if (!m_hides)
+            return;
+        m_canvas.show();
+        // The whole area is marked already, so that these cost nothing now; after the next paint each would.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::UpdateLater);
     }
     Q_DISABLE_COPY(HiddenWhileFilling)
 
