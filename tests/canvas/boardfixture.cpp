@@ -4,6 +4,7 @@
 #include "canvas/screenitem.h"
 #include "viewers/shape.h"
 
+#include <QApplication>
 #include <QTest>
 #include <QWindow>
 
@@ -23,7 +24,9 @@ BoardFixture::BoardFixture() : m_screen(new Screen(&m_window))
 
 bool BoardFixture::isReady()
 {
-    return QTest::qWaitForWindowActive(&m_window);
+    // A menu that has closed may still count as the active window.
+    m_window.activateWindow();
+    return QTest::qWaitFor([this] { return QApplication::activeWindow() == &m_window; });
 }
 
 ScreenItem *BoardFixture::addShape(const QRect &geometry, const QString &name)
