@@ -455,13 +455,18 @@ void Screen::dropEvent(QDropEvent *event)
 void Screen::keyPressEvent(QKeyEvent *event)
 {
     qDebug() << event;
-    if (event->key() == Qt::Key_Delete)
+    // In render mode the items hand their keys on to here, where they shall do nothing either.
+    if (event->key() == Qt::Key_Delete && !m_renderMode)
         deleteSelection();
 }
 
 void Screen::mousePressEvent(QMouseEvent *event)
 {
-    Q_UNUSED(event)
+    // In render mode the items hand their presses on to here: those are not meant for the canvas itself.
+    if (m_renderMode && childAt(event->pos())) {
+        event->ignore();
+        return;
+    }
     emit deactivateFor(nullptr);
     emit showSettingsFor(nullptr);
     clearSelection();

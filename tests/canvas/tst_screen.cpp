@@ -12,6 +12,8 @@
 #include <QShortcut>
 #include <QSignalSpy>
 
+Q_DECLARE_METATYPE(Qt::MouseButton)
+
 class tst_Screen : public QObject
 {
     Q_OBJECT
@@ -42,7 +44,10 @@ private slots:
     void marksTheDestructionOfAnUnknownItem();
     void showsThePanelOfItsOwnItemsOnly();
     void neverEmitsSelectedItem();
+    void deselectsAllWhenPressedBesideTheItems_data();
     void deselectsAllWhenPressedBesideTheItems();
+    void leavesItemsAloneInRenderMode();
+    void tellsTheDebugLogAboutKeys();
     void deletesTheSelectionWithTheDeleteKey();
     void leavesEverythingAtOtherKeys();
     void restacksItemsInListOrder();
@@ -393,8 +398,17 @@ void tst_Screen::neverEmitsSelectedItem()
     QCOMPARE(selected.size(), 0);
 }
 
+void tst_Screen::deselectsAllWhenPressedBesideTheItems_data()
+{
+    QTest::addColumn<Qt::MouseButton>("button");
+    QTest::newRow("left") << Qt::LeftButton;
+    QTest::newRow("right") << Qt::RightButton;
+    QTest::newRow("middle") << Qt::MiddleButton;
+}
+
 void tst_Screen::deselectsAllWhenPressedBesideTheItems()
 {
+    QFETCH(Qt::MouseButton, button);
     ShownScreen shown;
     QVERIFY(shown.ready);
     addItem(shown.screen, "A");
@@ -405,11 +419,39 @@ void tst_Screen::deselectsAllWhenPressedBesideTheItems()
             [&order](ScreenItem *item) { order.append(item ? "deactivate for one" : "deactivate all"); });
     connect(&shown.screen, &Screen::showSettingsFor, this,
             [&order](ScreenItem *item) { order.append(item ? "show one" : "show none"); });
-    QTest::mousePress(shown.window.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(500, 300));
+    QTest::mousePress(shown.window.windowHandle(), button, Qt::NoModifier, QPoint(500, 300));
     QCOMPARE(order, QStringList({"deactivate all", "show none"}));
     QVERIFY(shown.screen.selection().isEmpty());
     QVERIFY(selectionIsConsistent(shown.screen));
-    QTest::mouseRelease(shown.window.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(500, 300));
+    QTest::mouseRelease(shown.window.windowHandle(), button, Qt::NoModifier, QPoint(500, 300));
+}
+
+void tst_Screen::leavesItemsAloneInRenderMode()
+{
+    ShownScreen shown;
+    QVERIFY(shown.ready);
+    ScreenItem *item = addItem(shown.screen, "A", QRect(10, 10, 100, 50));
+    item->select();
+    QVERIFY(item->hasFocus());
+    QSignalSpy panels(&shown.screen, &Screen::showSettingsFor);
+    shown.screen.goToRenderMode();
+    QTest::keyClick(shown.window.windowHandle(), Qt::Key_Delete);
+    QTest::mouseClick(shown.window.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(50, 30));
+    deleteScheduled();
+    shown.screen.goOutRenderMode();
+    QCOMPARE(shown.screen.items(), QList<ScreenItem *>({item}));
+    QCOMPARE(shown.screen.selection(), QList<ScreenItem *>({item}));
+    QVERIFY(item->isSelected());
+    QCOMPARE(panels.size(), 0);
+}
+
+void tst_Screen::tellsTheDebugLogAboutKeys()
+{
+    QLoggingCategory::setFilterRules("default.debug=true");
+    Screen screen;
+    QTest::ignoreMessage(QtDebugMsg, QRegularExpression("^QKeyEvent\\(KeyPress, Key_F5\\)$"));
+    QTest::keyClick(&screen, Qt::Key_F5);
+    QLoggingCategory::setFilterRules("default.debug=false");
 }
 
 void tst_Screen::deletesTheSelectionWithTheDeleteKey()

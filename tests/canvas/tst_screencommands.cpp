@@ -29,6 +29,7 @@ private slots:
     void duplicatesTheSelectionOnTop();
     void duplicatesNothingWithoutSelection();
     void deletesTheFrameAndTheSelection();
+    void deletesTheFrameItselfLast();
     void deletesTheFrameAlone();
     void movesLayers_data();
     void movesLayers();
@@ -232,6 +233,19 @@ void tst_ScreenCommands::deletesTheFrameAndTheSelection()
     deleteScheduled();
     QCOMPARE(board.layers(), QStringList("D"));
     QVERIFY(board.isModified());
+}
+
+void tst_ScreenCommands::deletesTheFrameItselfLast()
+{
+    QStringList order;
+    Board board;
+    board.select({"A", "B", "C"});
+    for (const ScreenItem *item : board.items())
+        connect(item, &QObject::destroyed, this, [&order, name = item->name()] { order.append(name); });
+    command(board.item("A"), "deleteSlot");
+    deleteScheduled();
+    QCOMPARE(order, QStringList({"B", "C", "A"}));
+    QCOMPARE(board.layers(), QStringList("D"));
 }
 
 void tst_ScreenCommands::deletesTheFrameAlone()

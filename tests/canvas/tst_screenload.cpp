@@ -24,6 +24,7 @@ private slots:
     void equalsStepsBeforeTheCanvasIsShown_data();
     void equalsStepsBeforeTheCanvasIsShown();
     void pastesAsInView();
+    void setsTheWidthBeforeTheHeight();
     void paintsAVisibleCanvasOnce_data();
     void paintsAVisibleCanvasOnce();
     void staysVisible();
@@ -262,6 +263,16 @@ void tst_ScreenLoad::pastesAsInView()
     });
     compareStates(atOnce, stepwise);
     QCOMPARE(atOnce.frames.size(), 6);
+}
+
+void tst_ScreenLoad::setsTheWidthBeforeTheHeight()
+{
+    ShownScreen shown;
+    QVERIFY(shown.ready);
+    QList<QSize> sizes;
+    connect(&shown.screen, &Screen::meResized, this, [&] { sizes.append(shown.screen.size()); });
+    shown.screen.loadLayout(layoutOf({}, QSize(640, 320)));
+    QCOMPARE(sizes, QList<QSize>({QSize(640, 400), QSize(640, 320)}));
 }
 
 void tst_ScreenLoad::paintsAVisibleCanvasOnce_data()
