@@ -6,20 +6,42 @@
 #include "model/widgetgeometry.h"
 
 #include <QMouseEvent>
+#include <QVarLengthArray>
 
 namespace
 {
-/// One geometry key to the frame; any other key is none of the frame's business.
-void applyToFrame(QWidget *frame, const QString &key, const QVariant &value)
+using Entry = QPair<QString, QVariant>;
+using Entries = QVarLengthArray<Entry, 4>;
+
+/// The geometry keys that the map has, in the map's order. A copy: every move and resize of the frame comes
+/// back and rewrites the map.
+Entries geometryIn(const QMap<QString, QVariant> &values)
+{
+    Entries entries;
+    for (const QString &key : {Keys::h(), Keys::w(), Keys::x(), Keys::y()}) {
+        const auto entry = values.constFind(key);
+        if (entry != values.cend())
+            entries.append({key, *entry});
+    }
+    return entries;
+}
+
+void applyKey(QWidget *frame, const QString &key, int pixels)
 {
     if (key == Keys::x())
-        moveNow(frame, QPoint(toPixels(value), frame->y()));
+        moveNow(frame, QPoint(pixels, frame->y()));
     else if (key == Keys::y())
-        moveNow(frame, QPoint(frame->x(), toPixels(value)));
+        moveNow(frame, QPoint(frame->x(), pixels));
     else if (key == Keys::w())
-        resizeNow(frame, QSize(toPixels(value), frame->height()));
+        resizeNow(frame, QSize(pixels, frame->height()));
     else if (key == Keys::h())
-        resizeNow(frame, QSize(frame->width(), toPixels(value)));
+        resizeNow(frame, QSize(frame->width(), pixels));
+}
+
+void applyToFrame(QWidget *frame, const Entries &geometry)
+{
+    for (const Entry &entry : geometry)
+        applyKey(frame, entry.first, toPixels(entry.second));
 }
 
 /// Numbers are doubles whatever the JSON reader made of them, so that 10 and 10.0 are the same value.
@@ -38,12 +60,8 @@ ContentViewer::ContentViewer(QWidget *parent)
 
 void ContentViewer::anyValueChanged()
 {
-    if (QWidget *frame = parentWidget()) {
-        // A copy: every move and resize of the frame comes back and rewrites the map.
-        const QMap<QString, QVariant> values = m_values;
-        for (auto it = values.cbegin(); it != values.cend(); ++it)
-            applyToFrame(frame, it.key(), it.value());
-    }
+    if (QWidget *frame = parentWidget())
+        applyToFrame(frame, geometryIn(m_values));
     update();
 }
 
