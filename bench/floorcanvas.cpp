@@ -6,6 +6,37 @@
 #include <QPainterPath>
 #include <QVBoxLayout>
 
+/// The border of a selected item: the four dotted lines that the product draws for one.
+class FloorOverlay : public QWidget
+{
+public:
+    explicit FloorOverlay(QWidget *parent) : QWidget(parent)
+    {
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+    }
+
+    void select() { m_selected = true; }
+
+protected:
+    void paintEvent(QPaintEvent *event) override
+    {
+        Q_UNUSED(event)
+        if (!m_selected)
+            return;
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(Qt::gray, 1, Qt::DotLine, Qt::SquareCap, Qt::BevelJoin));
+        const QRectF edges = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
+        painter.drawLine(edges.topLeft(), edges.topRight());
+        painter.drawLine(edges.topLeft(), edges.bottomLeft());
+        painter.drawLine(edges.bottomLeft(), edges.bottomRight());
+        painter.drawLine(edges.topRight(), edges.bottomRight());
+    }
+
+private:
+    bool m_selected = false;
+};
+
 namespace
 {
 class Content : public QWidget
@@ -26,38 +57,6 @@ protected:
 
 private:
     FloorShape m_shape;
-};
-
-class Overlay : public QWidget
-{
-public:
-    explicit Overlay(QWidget *parent) : QWidget(parent) { setAttribute(Qt::WA_TransparentForMouseEvents); }
-
-protected:
-    void paintEvent(QPaintEvent *event) override { Q_UNUSED(event) }
-};
-
-class Frame : public QWidget
-{
-public:
-    Frame(const FloorShape &shape, QWidget *parent) : QWidget(parent), m_overlay(new Overlay(this))
-    {
-        auto *layout = new QVBoxLayout(this);
-        layout->setContentsMargins(0, 0, 0, 0);
-        layout->addWidget(new Content(shape, this));
-        m_overlay->raise();
-        setGeometry(shape.geometry);
-    }
-
-protected:
-    void resizeEvent(QResizeEvent *event) override
-    {
-        Q_UNUSED(event)
-        m_overlay->resize(size());
-    }
-
-private:
-    Overlay *m_overlay;
 };
 
 QPainterPath rounded(const QRectF &rectangle)
@@ -123,6 +122,28 @@ void paintFloorShape(QPainter &painter, const FloorShape &shape, QSize size)
     }
 }
 
+FloorFrame::FloorFrame(const FloorShape &shape, QWidget *parent)
+    : QWidget(parent),
+      m_overlay(new FloorOverlay(this))
+{
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(new Content(shape, this));
+    m_overlay->raise();
+    setGeometry(shape.geometry);
+}
+
+void FloorFrame::select()
+{
+    m_overlay->select();
+}
+
+void FloorFrame::resizeEvent(QResizeEvent *event)
+{
+    Q_UNUSED(event)
+    m_overlay->resize(size());
+}
+
 FloorCanvas::FloorCanvas(QWidget *parent) : QWidget(parent)
 {
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -142,7 +163,7 @@ void FloorCanvas::load(const QJsonObject &document)
 
 void FloorCanvas::addItem(const FloorShape &shape)
 {
-    auto *frame = new Frame(shape, this);
+    auto *frame = new FloorFrame(shape, this);
     frame->show();
     m_frames.append(frame);
     m_shapes.append(shape);
@@ -150,7 +171,7 @@ void FloorCanvas::addItem(const FloorShape &shape)
 
 void FloorCanvas::deleteItems()
 {
-    for (QWidget *frame : qAsConst(m_frames))
+    for (FloorFrame *frame : qAsConst(m_frames))
         frame->deleteLater();
     m_frames.clear();
     m_shapes.clear();

@@ -26,7 +26,25 @@ struct FloorShape {
 /// Paints one shape in its rectangle as the product paints it.
 void paintFloorShape(QPainter &painter, const FloorShape &shape, QSize size);
 
-/// A canvas of bare widgets: each item a frame with a layout, a painted shape and an overlay.
+class FloorOverlay;
+
+/// An item of bare widgets: a frame with a layout, a painted shape and an overlay for the border.
+class FloorFrame : public QWidget
+{
+public:
+    FloorFrame(const FloorShape &shape, QWidget *parent);
+
+    /// Shows the border from the next paint on.
+    void select();
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    FloorOverlay *m_overlay;
+};
+
+/// A canvas of bare items.
 class FloorCanvas : public QWidget
 {
 public:
@@ -35,7 +53,7 @@ public:
     /// Takes size and items from the document; hidden meanwhile, which is the fastest that the toolkit knows.
     void load(const QJsonObject &document);
 
-    const QVector<QWidget *> &frames() const { return m_frames; }
+    const QVector<FloorFrame *> &frames() const { return m_frames; }
     const QVector<FloorShape> &shapes() const { return m_shapes; }
 
     /// Deletes every item when the event loop runs.
@@ -47,6 +65,6 @@ protected:
 private:
     void addItem(const FloorShape &shape);
 
-    QVector<QWidget *> m_frames;
+    QVector<FloorFrame *> m_frames;
     QVector<FloorShape> m_shapes;
 };

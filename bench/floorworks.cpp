@@ -23,10 +23,16 @@ class Window : public QMainWindow
 public:
     Window() : m_canvas(new FloorCanvas)
     {
+        // The same surroundings as in the editor: a sheet on the canvas's parent makes every polish dearer.
+        auto *host = new QWidget;
+        host->setStyleSheet(QStringLiteral("background:transparent;"));
+        m_canvas->setParent(host);
         auto *area = new QScrollArea;
-        area->setWidget(m_canvas);
+        area->setWidget(host);
+        area->setWidgetResizable(true);
         setCentralWidget(area);
         m_canvas->setFixedSize(800, 400);
+        m_canvas->show();
         resize(1000, 600);
         show();
         settle();
@@ -75,6 +81,8 @@ void drag(int items, int moved)
     Window window;
     FloorCanvas &canvas = window.canvas();
     canvas.load(BenchBoard::layout(items, QSize(800, 400)));
+    for (int index = 0; index < moved; ++index)
+        canvas.frames().at(index)->select();
     settle();
     report("cpu", cpuPerTurn(moved == 1 ? 200 : 20, [&](int turn) {
                const QRect before = canvas.frames().first()->geometry();
