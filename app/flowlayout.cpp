@@ -15,7 +15,9 @@ int spacingOrStyled(int spacing, QLayoutItem *item, Qt::Orientation orientation)
 } // namespace
 
 FlowLayout::FlowLayout(QWidget *parent, int margin, int hSpacing, int vSpacing)
-    : QLayout(parent), m_hSpacing(hSpacing), m_vSpacing(vSpacing)
+    : QLayout(parent),
+      m_hSpacing(hSpacing),
+      m_vSpacing(vSpacing)
 {
     setContentsMargins(margin, margin, margin, margin);
 }

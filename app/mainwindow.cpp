@@ -25,8 +25,8 @@ enum class Answer { Yes, No, Cancel, None };
 
 Answer askToSave(QWidget *parent)
 {
-    QMessageBox box(QMessageBox::Warning, MainWindow::tr("Layout edited"), MainWindow::tr("Save layout file?"),
-                    QMessageBox::NoButton, parent);
+    QMessageBox box(QMessageBox::Warning, MainWindow::tr("Layout edited"),
+                    MainWindow::tr("Save layout file?"), QMessageBox::NoButton, parent);
     // One role for all keeps the buttons in this order on every desktop.
     QPushButton *yes = box.addButton(MainWindow::tr("Yes"), QMessageBox::ActionRole);
     QPushButton *no = box.addButton(MainWindow::tr("No"), QMessageBox::ActionRole);
@@ -76,7 +76,8 @@ void MainWindow::buildMenus()
     connect(help->addAction(tr("About")), &QAction::triggered, qApp, &QApplication::aboutQt);
 }
 
-QAction *MainWindow::addCommand(QMenu *menu, const QString &text, const QString &keys, void (MainWindow::*command)())
+QAction *MainWindow::addCommand(QMenu *menu, const QString &text, const QString &keys,
+                                void (MainWindow::*command)())
 {
     QAction *action = menu->addAction(text);
     connect(action, &QAction::triggered, this, command);
@@ -177,8 +178,8 @@ void MainWindow::saveActionTriggered()
 
 void MainWindow::exportActionTriggered()
 {
-    const QString path =
-        QFileDialog::getSaveFileName(this, tr("Export"), QString(), tr("Image file (*.png *.jpg *.jpeg *.bmp)"));
+    const QString path = QFileDialog::getSaveFileName(this, tr("Export"), QString(),
+                                                      tr("Image file (*.png *.jpg *.jpeg *.bmp)"));
     if (!path.isEmpty())
         pictureOf(*m_screen).save(path);
     qDebug("exportActionTriggered");
@@ -188,7 +189,8 @@ void MainWindow::exitActionTriggered()
 {
     if (m_screen->isModified()) {
         // "No" is the only button on purpose: leaving never saves.
-        QMessageBox box(QMessageBox::Warning, tr("Layout edited"), tr("Save layout file?"), QMessageBox::No, this);
+        QMessageBox box(QMessageBox::Warning, tr("Layout edited"), tr("Save layout file?"), QMessageBox::No,
+                        this);
         box.setDefaultButton(QMessageBox::Save);
         if (box.exec() == QMessageBox::Save)
             m_saveAction->trigger();

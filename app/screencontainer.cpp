@@ -44,7 +44,8 @@ void ScreenContainer::calculateGeometry()
     // The bars learn of the new minimum now rather than later, so that their ranges hold for what follows.
     QEvent layoutRequest(QEvent::LayoutRequest);
     QCoreApplication::sendEvent(this, &layoutRequest);
-    m_screen->move((widget()->width() - m_screen->width()) / 2, (widget()->height() - m_screen->height()) / 2);
+    m_screen->move((widget()->width() - m_screen->width()) / 2,
+                   (widget()->height() - m_screen->height()) / 2);
     scrollToMiddle(horizontalScrollBar());
     scrollToMiddle(verticalScrollBar());
 }

@@ -16,8 +16,8 @@ QString text(const char *sourceText)
     return QCoreApplication::translate("BoardRenderer", sourceText);
 }
 
-/// The picture goes through a file of ours: the toolkit's own saving by name empties a file whose suffix it does not
-/// know, and does not notice a full disk.
+/// The picture goes through a file of ours: the toolkit's own saving by name empties a file whose suffix it
+/// does not know, and does not notice a full disk.
 QString write(const QPixmap &picture, const QString &path)
 {
     const QByteArray format = QFileInfo(path).suffix().toLatin1().toLower();

@@ -9,7 +9,8 @@
 
 namespace
 {
-/// Standard error carries nothing but the renderer's own line: what the toolkit and the items log stays out of it.
+/// Standard error carries nothing but the renderer's own line: what the toolkit and the items log stays out
+/// of it.
 void keepLogQuiet(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
     Q_UNUSED(context)
@@ -21,8 +22,8 @@ void keepLogQuiet(QtMsgType type, const QMessageLogContext &context, const QStri
 QString onOneLine(QString message)
 {
     std::replace_if(
-        message.begin(), message.end(), [](QChar character) { return character.category() == QChar::Other_Control; },
-        QLatin1Char('?'));
+        message.begin(), message.end(),
+        [](QChar character) { return character.category() == QChar::Other_Control; }, QLatin1Char('?'));
     return message;
 }
 

@@ -1,0 +1,10 @@
+add_library(boardwright_commandtest STATIC app/commandtest.cpp app/commandtest.h)
+target_link_libraries(boardwright_commandtest PUBLIC boardwright_app boardwright_testsupport)
+
+boardwright_add_test(app/tst_mainwindow LINK boardwright_app)
+foreach(command new open save export exit)
+    boardwright_add_test(app/tst_${command}command LINK boardwright_commandtest)
+endforeach()
+boardwright_add_test(app/tst_flowlayout LINK boardwright_app)
+boardwright_add_test(app/tst_samples LINK boardwright_app)
+boardwright_add_test(app/tst_screencontainer LINK boardwright_app)

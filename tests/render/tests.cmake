@@ -1,0 +1,1 @@
+boardwright_add_test(render/tst_boardrenderer LINK boardwright_render boardwright_app RUNS boardwright-render)

@@ -1,0 +1,275 @@
+#include "app/screencontainer.h"
+
+#include "canvas/screen.h"
+#include "tests/support/strictmain.h"
+
+#include <QMetaMethod>
+#include <QPointer>
+#include <QScrollBar>
+
+// The scroll area around the canvas.
+class tst_ScreenContainer : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void areaIsAPlainTransparentWidget();
+    void calculateGeometryIsItsOneSlot();
+    void calculatingWithoutAScreenDoesNothing();
+    void setScreenTakesTheScreenIntoTheArea();
+    void setScreenDeletesTheScreenBefore();
+    void setScreenTwiceKeepsTheScreen();
+    void setScreenOfNoneLeavesNoScreen();
+    void forgetsAScreenThatIsDeletedElsewhere();
+    void deletesTheScreenAtTheEnd();
+    void centresASmallScreen_data();
+    void centresASmallScreen();
+    void areaIsNeverSmallerThanTheScreen();
+    void showsNoBarsForASmallScreen();
+    void opensALargeScreenScrolledToItsMiddle_data();
+    void opensALargeScreenScrolledToItsMiddle();
+    void scrollsToTheMiddleAfterEveryResizeOfTheScreen();
+    void scrollsToTheMiddleAfterEveryResizeOfTheView();
+    void screenThatShrinksIsCentredAgain();
+    void calculateGeometrySetsMinimumAndPlace();
+    void wideScreenIsCentredVertically();
+};
+
+namespace
+{
+/// A container without frame, shown with the screen as the main window sets it up.
+struct View {
+    explicit View(QSize viewSize, QSize screenSize)
+    {
+        container.setFrameShape(QFrame::NoFrame);
+        container.setScreen(screen);
+        container.setWidgetResizable(true);
+        screen->setFixedSize(screenSize);
+        container.resize(viewSize);
+        container.show();
+    }
+
+    bool isShown() { return QTest::qWaitForWindowExposed(&container); }
+    QPoint place() const { return screen->mapTo(&container, QPoint(0, 0)); }
+
+    ScreenContainer container;
+    Screen *screen = new Screen;
+};
+
+bool isInMiddle(const QScrollBar *bar)
+{
+    return bar->isVisible() && bar->maximum() > 0 && bar->value() == bar->maximum() / 2;
+}
+} // namespace
+
+void tst_ScreenContainer::areaIsAPlainTransparentWidget()
+{
+    const ScreenContainer container;
+    QVERIFY(container.widget());
+    QCOMPARE(container.widget()->metaObject()->className(), "QWidget");
+    QCOMPARE(container.widget()->styleSheet(), QString("background:transparent;"));
+}
+
+void tst_ScreenContainer::calculateGeometryIsItsOneSlot()
+{
+    const QMetaObject &meta = ScreenContainer::staticMetaObject;
+    QCOMPARE(meta.methodCount() - meta.methodOffset(), 1);
+    QCOMPARE(meta.method(meta.methodOffset()).methodSignature(), QByteArray("calculateGeometry()"));
+    QCOMPARE(meta.method(meta.methodOffset()).methodType(), QMetaMethod::Slot);
+    QCOMPARE(QByteArray(meta.superClass()->className()), QByteArray("QScrollArea"));
+}
+
+void tst_ScreenContainer::calculatingWithoutAScreenDoesNothing()
+{
+    ScreenContainer container;
+    container.calculateGeometry();
+    QCOMPARE(container.widget()->minimumSize(), QSize(0, 0));
+}
+
+void tst_ScreenContainer::setScreenTakesTheScreenIntoTheArea()
+{
+    View view({600, 400}, {200, 100});
+    QVERIFY(view.isShown());
+    QCOMPARE(view.screen->parentWidget(), view.container.widget());
+    QVERIFY(view.screen->isVisible());
+}
+
+void tst_ScreenContainer::setScreenDeletesTheScreenBefore()
+{
+    View view({600, 400}, {200, 100});
+    const QPointer<Screen> before = view.screen;
+    auto *next = new Screen;
+    next->setFixedSize(100, 50);
+    view.container.setScreen(next);
+    QVERIFY(!before);
+    QCOMPARE(next->parentWidget(), view.container.widget());
+    QCOMPARE(next->mapTo(&view.container, QPoint(0, 0)), QPoint(250, 175));
+    QVERIFY(next->isVisible());
+}
+
+void tst_ScreenContainer::setScreenTwiceKeepsTheScreen()
+{
+    View view({600, 400}, {200, 100});
+    const QPointer<Screen> screen = view.screen;
+    view.container.setScreen(view.screen);
+    QVERIFY(screen);
+    QCOMPARE(view.place(), QPoint(200, 150));
+}
+
+void tst_ScreenContainer::setScreenOfNoneLeavesNoScreen()
+{
+    View view({600, 400}, {200, 100});
+    const QPointer<Screen> before = view.screen;
+    view.container.setScreen(nullptr);
+    QVERIFY(!before);
+    view.container.calculateGeometry();
+    view.container.resize(500, 300);
+}
+
+void tst_ScreenContainer::forgetsAScreenThatIsDeletedElsewhere()
+{
+    View view({600, 400}, {200, 100});
+    QVERIFY(view.isShown());
+    delete view.screen;
+    const QSize minimum = view.container.widget()->minimumSize();
+    view.container.calculateGeometry();
+    view.container.resize(100, 100);
+    QCOMPARE(view.container.widget()->minimumSize(), minimum);
+    // Nothing is left to be deleted a second time.
+    auto *next = new Screen;
+    view.container.setScreen(next);
+    QCOMPARE(next->parentWidget(), view.container.widget());
+}
+
+void tst_ScreenContainer::deletesTheScreenAtTheEnd()
+{
+    QPointer<Screen> screen = new Screen;
+    {
+        ScreenContainer container;
+        container.setScreen(screen);
+    }
+    QVERIFY(!screen);
+}
+
+void tst_ScreenContainer::centresASmallScreen_data()
+{
+    QTest::addColumn<QSize>("viewSize");
+    QTest::addColumn<QPoint>("place");
+
+    QTest::newRow("even rest") << QSize(600, 400) << QPoint(200, 150);
+    QTest::newRow("odd rest leaves the extra pixel right and below") << QSize(601, 401) << QPoint(200, 150);
+    QTest::newRow("next even rest") << QSize(602, 402) << QPoint(201, 151);
+    QTest::newRow("odd width only") << QSize(205, 400) << QPoint(2, 150);
+    QTest::newRow("exactly the screen") << QSize(200, 100) << QPoint(0, 0);
+}
+
+void tst_ScreenContainer::centresASmallScreen()
+{
+    QFETCH(QSize, viewSize);
+    QFETCH(QPoint, place);
+
+    View view({700, 500}, {200, 100});
+    QVERIFY(view.isShown());
+    view.container.resize(viewSize);
+    QTRY_COMPARE(view.container.size(), viewSize);
+    QCOMPARE(view.place(), place);
+    QCOMPARE(view.container.widget()->size(), viewSize);
+}
+
+void tst_ScreenContainer::areaIsNeverSmallerThanTheScreen()
+{
+    View view({300, 200}, {800, 400});
+    QVERIFY(view.isShown());
+    QCOMPARE(view.container.widget()->minimumSize(), QSize(800, 400));
+    QCOMPARE(view.container.widget()->size(), QSize(800, 400));
+    QCOMPARE(view.screen->pos(), QPoint(0, 0));
+}
+
+void tst_ScreenContainer::showsNoBarsForASmallScreen()
+{
+    View view({300, 200}, {300, 200});
+    QVERIFY(view.isShown());
+    QVERIFY(!view.container.horizontalScrollBar()->isVisible());
+    QVERIFY(!view.container.verticalScrollBar()->isVisible());
+}
+
+void tst_ScreenContainer::opensALargeScreenScrolledToItsMiddle_data()
+{
+    QTest::addColumn<QSize>("screenSize");
+
+    QTest::newRow("default board") << QSize(800, 400);
+    QTest::newRow("odd lengths") << QSize(801, 433);
+    QTest::newRow("largest board") << QSize(10000, 10000);
+}
+
+void tst_ScreenContainer::opensALargeScreenScrolledToItsMiddle()
+{
+    QFETCH(QSize, screenSize);
+
+    View view({300, 200}, screenSize);
+    QVERIFY(view.isShown());
+    const QSize rest = screenSize - view.container.viewport()->size();
+    QCOMPARE(view.container.horizontalScrollBar()->maximum(), rest.width());
+    QCOMPARE(view.container.verticalScrollBar()->maximum(), rest.height());
+    QVERIFY(isInMiddle(view.container.horizontalScrollBar()));
+    QVERIFY(isInMiddle(view.container.verticalScrollBar()));
+}
+
+void tst_ScreenContainer::scrollsToTheMiddleAfterEveryResizeOfTheScreen()
+{
+    View view({300, 200}, {800, 400});
+    QVERIFY(view.isShown());
+    for (const QSize size : {QSize(1000, 700), QSize(2000, 700), QSize(900, 501)}) {
+        view.container.horizontalScrollBar()->setValue(0);
+        view.container.verticalScrollBar()->setValue(0);
+        view.screen->setFixedSize(size);
+        QVERIFY(isInMiddle(view.container.horizontalScrollBar()));
+        QVERIFY(isInMiddle(view.container.verticalScrollBar()));
+        QCOMPARE(view.container.horizontalScrollBar()->maximum(),
+                 size.width() - view.container.viewport()->width());
+    }
+}
+
+void tst_ScreenContainer::scrollsToTheMiddleAfterEveryResizeOfTheView()
+{
+    View view({300, 200}, {800, 400});
+    QVERIFY(view.isShown());
+    view.container.horizontalScrollBar()->setValue(0);
+    view.container.resize(400, 250);
+    QTRY_COMPARE(view.container.size(), QSize(400, 250));
+    QVERIFY(isInMiddle(view.container.horizontalScrollBar()));
+    QVERIFY(isInMiddle(view.container.verticalScrollBar()));
+}
+
+void tst_ScreenContainer::screenThatShrinksIsCentredAgain()
+{
+    View view({600, 400}, {1200, 900});
+    QVERIFY(view.isShown());
+    view.screen->setFixedSize(200, 100);
+    QTRY_VERIFY(!view.container.horizontalScrollBar()->isVisible());
+    QCOMPARE(view.place(), QPoint(200, 150));
+    QCOMPARE(view.container.widget()->minimumSize(), QSize(200, 100));
+}
+
+void tst_ScreenContainer::calculateGeometrySetsMinimumAndPlace()
+{
+    View view({600, 400}, {200, 100});
+    QVERIFY(view.isShown());
+    view.screen->move(7, 9);
+    view.container.widget()->setMinimumSize(0, 0);
+    view.container.calculateGeometry();
+    QCOMPARE(view.screen->pos(), QPoint(200, 150));
+    QCOMPARE(view.container.widget()->minimumSize(), QSize(200, 100));
+}
+
+void tst_ScreenContainer::wideScreenIsCentredVertically()
+{
+    View view({600, 400}, {1920, 96});
+    QVERIFY(view.isShown());
+    QVERIFY(isInMiddle(view.container.horizontalScrollBar()));
+    QVERIFY(!view.container.verticalScrollBar()->isVisible());
+    QCOMPARE(view.screen->y(), (view.container.viewport()->height() - 96) / 2);
+}
+
+BOARDWRIGHT_TEST_MAIN(tst_ScreenContainer)
+#include "tst_screencontainer.moc"
