@@ -1,0 +1,66 @@
+#include "tests/app/x11/pointer.h"
+
+#include <QProcess>
+#include <QTest>
+
+namespace
+{
+constexpr int patience = 30000; // milliseconds
+constexpr int dragSteps = 4;
+
+QStringList moveTo(QPoint position)
+{
+    return {"mousemove", QString::number(position.x()), QString::number(position.y())};
+}
+} // namespace
+
+bool xdotool(const QStringList &arguments, QString *output)
+{
+    QProcess process;
+    process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    process.start("xdotool", arguments);
+    // Events are handled meanwhile: the tool may wait for a window of this very process.
+    const bool ended =
+        QTest::qWaitFor([&process] { return process.state() == QProcess::NotRunning; }, patience);
+    if (output)
+        *output = QString::fromUtf8(process.readAllStandardOutput()).trimmed();
+    return ended && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
+}
+
+bool movePointer(QPoint globalPosition)
+{
+    return xdotool(moveTo(globalPosition));
+}
+
+bool pressButton()
+{
+    return xdotool({"mousedown", "1"});
+}
+
+bool releaseButton()
+{
+    return xdotool({"mouseup", "1"});
+}
+
+bool click(QPoint globalPosition)
+{
+    return movePointer(globalPosition) && xdotool({"click", "1"});
+}
+
+bool drag(QPoint from, QPoint to)
+{
+    bool isWell = movePointer(from) && pressButton();
+    for (int step = 1; step <= dragSteps; ++step)
+        isWell = isWell && movePointer(from + (to - from) * step / dragSteps);
+    return releaseButton() && isWell;
+}
+
+bool pressKey(const QString &key)
+{
+    return xdotool({"key", "--clearmodifiers", key});
+}
+
+bool typeText(const QString &text)
+{
+    return xdotool({"type", "--clearmodifiers", text});
+}
