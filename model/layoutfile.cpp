@@ -57,7 +57,7 @@ QString overwrite(const QString &filePath, const QByteArray &bytes)
     QFile old(filePath);
     const QByteArray oldBytes = old.open(QIODevice::ReadOnly) ? old.read(old.size()) : QByteArray();
     old.close();
-    const QString error = writeInPlace(filePath, bytes);
+    QString error = writeInPlace(filePath, bytes);
     if (!error.isNull())
         writeInPlace(filePath, oldBytes);
     return error;
@@ -89,7 +89,7 @@ LayoutFile::Document LayoutFile::read(const QString &filePath)
     const QByteArray bytes = file.readAll();
     if (file.error() != QFileDevice::NoError)
         return {{}, file.errorString()};
-    QJsonParseError parseError;
+    QJsonParseError parseError{};
     const QJsonDocument document = QJsonDocument::fromJson(bytes, &parseError);
     if (parseError.error != QJsonParseError::NoError)
         return {{}, parseError.errorString()};
@@ -110,7 +110,7 @@ QString LayoutFile::write(const QString &filePath, const QJsonObject &layout)
     probe.close();
     // Links are followed to their end: the file is replaced, not the link to it.
     const QString finalPath = target.canonicalFilePath();
-    const QString error = writeRegular(finalPath, QJsonDocument(layout).toJson());
+    QString error = writeRegular(finalPath, QJsonDocument(layout).toJson());
     if (!error.isNull() && !existed)
         QFile::remove(finalPath);
     return error;

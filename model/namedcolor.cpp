@@ -3,7 +3,6 @@
 QColor namedColor(const QString &name)
 {
     QColor color;
-    if (QColor::isValidColor(name))
-        color.setNamedColor(name);
+    color.setNamedColor(name);
     return color;
 }

@@ -28,14 +28,10 @@ void sendHeldGeometryEvents(QWidget *widget)
         QMoveEvent event(widget->pos(), widget->pos());
         QCoreApplication::sendEvent(widget, &event);
     }
-    // The handler of a resize may resize once more, which is held back again, be it to the same size.
-    QSize told;
+    // The handler of a resize may resize once more, which is held back again.
     while (widget->testAttribute(Qt::WA_PendingResizeEvent)) {
         widget->setAttribute(Qt::WA_PendingResizeEvent, false);
-        if (widget->size() == told)
-            break;
-        told = widget->size();
-        QResizeEvent event(told, told);
+        QResizeEvent event(widget->size(), widget->size());
         QCoreApplication::sendEvent(widget, &event);
     }
 }

@@ -5,8 +5,8 @@
 
 class QWidget;
 
-// The toolkit keeps the move and resize events of a hidden widget back until it is shown. A frame's clamps and
-// reports live in those events, so a board that is filled while hidden would come out different from one
+// The toolkit keeps the move and resize events of a hidden widget back until it is shown. A frame's clamps
+// and reports live in those events, so a board that is filled while hidden would come out different from one
 // that is filled in view. These functions deliver the events at once, shown or not.
 
 /// Moves the widget within its parent (px).

@@ -55,7 +55,8 @@ QString size()
 QPainterPath rounded(const QRectF &rectangle)
 {
     QPainterPath path;
-    path.addRoundedRect(rectangle, ShapeGeometry::cornerRadius, ShapeGeometry::cornerRadius, Qt::AbsoluteSize);
+    path.addRoundedRect(rectangle, ShapeGeometry::cornerRadius, ShapeGeometry::cornerRadius,
+                        Qt::AbsoluteSize);
     return path;
 }
 } // namespace
@@ -93,11 +94,12 @@ void Shape::anyValueChanged()
 QStringList Shape::getEnumsFor(QString enumName)
 {
     if (enumName == Key::shape())
-        return {QStringLiteral("Rectangle"),    QStringLiteral("Round Rectangle"), QStringLiteral("Square"),
-                QStringLiteral("Round Square"), QStringLiteral("Horizontal Line"), QStringLiteral("Vertical Line")};
+        return {QStringLiteral("Rectangle"),       QStringLiteral("Round Rectangle"),
+                QStringLiteral("Square"),          QStringLiteral("Round Square"),
+                QStringLiteral("Horizontal Line"), QStringLiteral("Vertical Line")};
     if (enumName == Key::align())
-        return {QStringLiteral("Top"), QStringLiteral("Center"), QStringLiteral("Bottom"), QStringLiteral("Right"),
-                QStringLiteral("Left")};
+        return {QStringLiteral("Top"), QStringLiteral("Center"), QStringLiteral("Bottom"),
+                QStringLiteral("Right"), QStringLiteral("Left")};
     return {};
 }
 

@@ -3,8 +3,8 @@
 #include "model/contentviewer.h"
 #include "viewers/shapegeometry.h"
 
-/// The content of a shape item: a filled and outlined figure of one of six kinds. Everything it is made of lives
-/// in the value map.
+/// The content of a shape item: a filled and outlined figure of one of six kinds. Everything it is made of
+/// lives in the value map.
 class Shape : public ContentViewer
 {
     Q_OBJECT

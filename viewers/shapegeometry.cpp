@@ -62,7 +62,8 @@ QPoint roundSquareAnchor(const ShapeGeometry::Placement &placement)
     if (isWide(placement)) {
         if (isAligned(placement, "Left"))
             return {half, half};
-        // The horizontal offset goes downwards and pushes the square out of sight: on purpose, unlike the square.
+        // The horizontal offset goes downwards and pushes the square out of sight: on purpose, unlike the
+        // square.
         if (isAligned(placement, "Right"))
             return {half, farCorner.x()};
     } else {
@@ -110,7 +111,8 @@ ShapeGeometry::Figure ShapeGeometry::square(const Placement &placement)
     return squareAt(centre, centredOutline(placement), placement);
 }
 
-std::optional<ShapeGeometry::RoundFigure> ShapeGeometry::roundSquare(const Placement &placement, bool outlined)
+std::optional<ShapeGeometry::RoundFigure> ShapeGeometry::roundSquare(const Placement &placement,
+                                                                     bool outlined)
 {
     const QPoint anchor = roundSquareAnchor(placement);
     if (anchor.x() < 0 || anchor.y() < 0)
@@ -119,7 +121,8 @@ std::optional<ShapeGeometry::RoundFigure> ShapeGeometry::roundSquare(const Place
     const int inset = length - placement.lineWidth;
     const QRectF outline(anchor.x(), anchor.y(), inset, inset);
     const qreal half = placement.lineWidth / 2.0;
-    return RoundFigure{outlined ? outline : QRectF(anchor.x() - half, anchor.y() - half, length, length), outline};
+    return RoundFigure{outlined ? outline : QRectF(anchor.x() - half, anchor.y() - half, length, length),
+                       outline};
 }
 
 QLine ShapeGeometry::verticalLine(const Placement &placement)

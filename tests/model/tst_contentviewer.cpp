@@ -3,6 +3,7 @@
 #include "canvas/screen.h"
 #include "canvas/screenitem.h"
 #include "model/contenthost.h"
+#include "model/widgetgeometry.h"
 #include "tests/support/strictmain.h"
 #include "viewers/shape.h"
 
@@ -157,6 +158,8 @@ private slots:
     void followsItsFrame();
     void movesItsFrame_data();
     void movesItsFrame();
+    void storesWhatTheFrameMadeOfAValue_data();
+    void storesWhatTheFrameMadeOfAValue();
     void appliesEveryGeometryValueOfAMap_data();
     void appliesEveryGeometryValueOfAMap();
     void tellsListenersThroughTheFrame_data();
@@ -176,6 +179,7 @@ private:
     std::unique_ptr<Screen> m_screen;
     ScreenItem *m_frame = nullptr;
     Shape *m_shape = nullptr;
+    QStringList m_heard; // what the running test was told
 };
 
 void tst_ContentViewer::initTestCase()
@@ -193,6 +197,7 @@ void tst_ContentViewer::init()
     m_screen->setFixedSize(800, 400);
     m_frame = new ScreenItem(m_screen.get());
     m_frame->setGeometry(30, 20, 100, 50);
+    sendHeldGeometryEvents(m_frame);
     m_shape = new Shape(m_frame);
 }
 
@@ -362,14 +367,13 @@ void tst_ContentViewer::newGeometryIsApplied()
 
 void tst_ContentViewer::applyGeometryStoresAllBeforeItTells()
 {
-    QStringList heard;
-    connect(m_sample, &ContentViewer::valueChanged, this, [&](const QString &key, const QVariant &value) {
+    connect(m_sample, &ContentViewer::valueChanged, this, [this](const QString &key, const QVariant &value) {
         QCOMPARE(geometryOf(m_sample->getValues()), geometryValues(QRect(-1, 2, 30, 40)));
         QCOMPARE(value.userType(), int(QMetaType::Int));
-        heard << key + ' ' + value.toString();
+        m_heard << key + ' ' + value.toString();
     });
     m_sample->applyGeometry(QRect(-1, 2, 30, 40));
-    QCOMPARE(heard, QStringList({"X -1", "W 30", "Y 2", "H 40"}));
+    QCOMPARE(m_heard, QStringList({"X -1", "W 30", "Y 2", "H 40"}));
 }
 
 void tst_ContentViewer::endEditingChangesNothing()
@@ -571,6 +575,24 @@ void tst_ContentViewer::movesItsFrame()
     QCOMPARE(geometryOf(m_shape->getValues()), geometryValues(m_frame->geometry()));
 }
 
+void tst_ContentViewer::storesWhatTheFrameMadeOfAValue_data()
+{
+    addVisibility();
+}
+
+/// The clamp of the frame has had its say when the value has been set, also on a hidden canvas.
+void tst_ContentViewer::storesWhatTheFrameMadeOfAValue()
+{
+    showCanvasAsTheRowSays();
+    m_shape->setValue("H", 1000);
+    QCOMPARE(m_frame->geometry(), QRect(30, 20, 100, 380));
+    QCOMPARE(m_shape->getValue("H"), QVariant(380));
+    m_shape->setValue("X", 500);
+    m_shape->setValue("W", 1000);
+    QCOMPARE(m_frame->geometry(), QRect(500, 20, 300, 380));
+    QCOMPARE(m_shape->getValue("W"), QVariant(300));
+}
+
 void tst_ContentViewer::appliesEveryGeometryValueOfAMap_data()
 {
     addVisibility();
@@ -590,19 +612,25 @@ void tst_ContentViewer::appliesEveryGeometryValueOfAMap()
 
 void tst_ContentViewer::tellsListenersThroughTheFrame_data()
 {
-    addVisibility();
+    QTest::addColumn<bool>("isShown");
+    QTest::addColumn<QString>("key");
+    for (const char *key : {"X", "Y", "W", "H"}) {
+        QTest::addRow("%s hidden", key) << false << key;
+        QTest::addRow("%s shown", key) << true << key;
+    }
 }
 
 void tst_ContentViewer::tellsListenersThroughTheFrame()
 {
+    QFETCH(QString, key);
     showCanvasAsTheRowSays();
-    m_shape->setValue("X", 31); // whatever the frame held back while hidden is told by now
     const QSignalSpy contentChanges(m_shape, &ContentViewer::valueChanged);
     const QSignalSpy frameChanges(m_frame, &ScreenItem::valueChanged);
-    m_shape->setValue("X", 60);
+    m_shape->setValue(key, 60);
     QCOMPARE(namesOf(contentChanges), QStringList({"X", "W", "Y", "H"}));
     QCOMPARE(namesOf(frameChanges), QStringList({"X", "W", "Y", "H"}));
-    QCOMPARE(contentChanges.first().at(1), QVariant(60));
+    const int place = namesOf(contentChanges).indexOf(key);
+    QCOMPARE(contentChanges.at(place).at(1), QVariant(60));
 }
 
 void tst_ContentViewer::staysSilentWhenNothingMoves()

@@ -194,7 +194,6 @@ void tst_LayoutFile::initTestCase()
 
 void tst_LayoutFile::init()
 {
-    QCoreApplication::processEvents(); // from the first event on a warning fails the test
     m_folder = std::make_unique<QTemporaryDir>();
     QVERIFY(m_folder->isValid());
     setMode(m_folder->path(), 0777);
@@ -293,7 +292,7 @@ void tst_LayoutFile::tellsTheWordsOfTheParser_data()
 void tst_LayoutFile::tellsTheWordsOfTheParser()
 {
     QFETCH(QByteArray, bytes);
-    QJsonParseError expected;
+    QJsonParseError expected{};
     QJsonDocument::fromJson(bytes, &expected);
     const LayoutFile::Document document = LayoutFile::read(put("board.lay", bytes));
     QVERIFY(expected.error != QJsonParseError::NoError);

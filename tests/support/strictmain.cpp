@@ -35,38 +35,16 @@ void failOnWarning(QtMsgType type, const QMessageLogContext &context, const QStr
     if (!isComplaint && testLibraryHandler)
         testLibraryHandler(type, context, message);
 }
-
-/// The test library sets its own message handler when it starts; the first event comes after that.
-class HandlerInstaller : public QObject
-{
-public:
-    using QObject::QObject;
-
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        install();
-        return QObject::eventFilter(watched, event);
-    }
-
-private:
-    void install()
-    {
-        if (m_installed)
-            return;
-        m_installed = true;
-        testLibraryHandler = qInstallMessageHandler(failOnWarning);
-    }
-
-    bool m_installed = false;
-};
 } // namespace
 
 int runStrictly(QObject &test, int argc, char **argv)
 {
-    HandlerInstaller installer;
-    QCoreApplication::instance()->installEventFilter(&installer);
-    return QTest::qExec(&test, argc, argv);
+    QTest::qInit(&test, argc, argv);
+    // The test library has set its own message handler by now.
+    testLibraryHandler = qInstallMessageHandler(failOnWarning);
+    const int failures = QTest::qRun();
+    QTest::qCleanup();
+    return failures;
 }
 
 void expectWarning(const QString &part)

@@ -147,8 +147,8 @@ void tst_Shape::startsWithItsDefaults_data()
 void tst_Shape::startsWithItsDefaults()
 {
     QFETCH(QVariant, value);
-    const Shape *fresh = new Shape(m_frame);
-    const QVariant stored = const_cast<Shape *>(fresh)->getValues().value(QTest::currentDataTag());
+    auto *fresh = new Shape(m_frame);
+    const QVariant stored = fresh->getValues().value(QTest::currentDataTag());
     QCOMPARE(stored.userType(), value.userType());
     QCOMPARE(stored, value);
 }

@@ -219,6 +219,7 @@ private slots:
     void lineIgnoresFillBorderAndOpacity();
     void lineWithoutWidthIsHairThin_data();
     void lineWithoutWidthIsHairThin();
+    void lineWithoutWidthIsHairThinWhenMagnified();
     void unknownKindDrawsNothing_data();
     void unknownKindDrawsNothing();
     void survivesHostileValues_data();
@@ -226,6 +227,7 @@ private slots:
 
 private:
     QImage pictureOf(QSize size, const Values &values);
+    int markedPixelsWhenMagnified(const Values &values);
     void addKindsAndAlignments();
     void compare(QSize size, const Values &values);
     void compareBorders(QSize size, Values values);
@@ -454,6 +456,34 @@ void tst_ShapePainting::lineWithoutWidthIsHairThin()
     QCOMPARE(pictureOf(QSize(40, 40), values), hair);
 }
 
+void tst_ShapePainting::lineWithoutWidthIsHairThinWhenMagnified()
+{
+    Values values = valuesOf("Vertical Line", "Center");
+    for (const int lineWidth : {0, -7}) {
+        values["Line Width"] = lineWidth;
+        QCOMPARE(markedPixelsWhenMagnified(values), 2); // between two pixels
+    }
+    values["Line Width"] = 1;
+    QCOMPARE(markedPixelsWhenMagnified(values), 4);
+}
+
+/// How many pixels of a row are painted when a pixel of the shape is four wide.
+int tst_ShapePainting::markedPixelsWhenMagnified(const Values &values)
+{
+    m_shape->resize(10, 10);
+    m_shape->setValues(values);
+    QImage picture = emptyPicture(QSize(40, 40));
+    QPainter painter(&picture);
+    painter.scale(4, 4);
+    m_shape->render(&painter, QPoint(), QRegion(), QWidget::RenderFlags());
+    painter.end();
+    const QRgb ground = emptyPicture(QSize(1, 1)).pixel(0, 0);
+    int marked = 0;
+    for (int x = 0; x < picture.width(); ++x)
+        marked += picture.pixel(x, 20) != ground ? 1 : 0;
+    return marked;
+}
+
 void tst_ShapePainting::unknownKindDrawsNothing_data()
 {
     QTest::addColumn<QString>("kind");
@@ -483,8 +513,10 @@ void tst_ShapePainting::survivesHostileValues_data()
 void tst_ShapePainting::survivesHostileValues()
 {
     QFETCH(QVariant, value);
-    for (const QString &kind : m_shape->getEnumsFor("Shape")) {
-        for (const QString &align : m_shape->getEnumsFor("Align")) {
+    const QStringList kinds = m_shape->getEnumsFor("Shape");
+    const QStringList alignments = m_shape->getEnumsFor("Align");
+    for (const QString &kind : kinds) {
+        for (const QString &align : alignments) {
             Values values = valuesOf(kind, align);
             values["Opacity"] = value;
             const QImage once = pictureOf(QSize(60, 30), values);
