@@ -33,6 +33,29 @@ QPoint arrowStep(int key)
 }
 
 /// Counts frames without a width or height as well, which united rectangles would leave out.
+/// Every frame has its menu from the start, but few are ever opened: the style sheet dresses them only then.
+class ContextMenu : public QMenu
+{
+public:
+    explicit ContextMenu(QWidget *parent) : QMenu(parent) {}
+
+    void dress()
+    {
+        m_mayBeDressed = true;
+        QEvent polish(QEvent::Polish);
+        QCoreApplication::sendEvent(this, &polish);
+    }
+
+protected:
+    bool event(QEvent *event) override
+    {
+        return event->type() == QEvent::Polish && !m_mayBeDressed ? true : QMenu::event(event);
+    }
+
+private:
+    bool m_mayBeDressed = false;
+};
+
 QRect boundingBox(const QList<ScreenItem *> &frames)
 {
     QPoint nearest = frames.first()->pos();
@@ -75,7 +98,7 @@ ScreenItem::~ScreenItem() = default;
 
 void ScreenItem::buildContextMenu()
 {
-    m_contextMenu = new QMenu(this);
+    m_contextMenu = new ContextMenu(this);
     connect(m_contextMenu->addAction(tr("Bring to Front")), &QAction::triggered, this,
             &ScreenItem::bringToFrontSlot);
     connect(m_contextMenu->addAction(tr("Send to Back")), &QAction::triggered, this,
@@ -119,10 +142,12 @@ void ScreenItem::setSelected(bool selected)
     if (m_selected == selected)
         return;
     m_selected = selected;
-    if (Screen *screen = canvas())
+    if (Screen *screen = canvas()) {
         screen->noteSelected(this, selected);
-    m_border->update();
-    update();
+        // Not update(): many frames that are dirty one by one cost far more than one dirty area of the
+        // canvas.
+        screen->update(geometry());
+    }
 }
 
 void ScreenItem::select()
@@ -351,6 +376,7 @@ void ScreenItem::showContextMenu(QPoint position)
     nameMenuActions();
     // The see-through sheet of the area around the canvas reaches down to here. The application's sheet,
     // given to the menu itself, has the last word.
+    static_cast<ContextMenu *>(m_contextMenu)->dress();
     m_contextMenu->setStyleSheet(qApp->styleSheet());
     m_contextMenu->exec(mapToGlobal(position));
     if (guard)

@@ -15,8 +15,9 @@ class QMenu;
 class QVBoxLayout;
 class Screen;
 
-/// The frame of one item on the canvas: it selects, moves and resizes the item with mouse and keys and carries
-/// its name. What the item shows is its content's business, and every parameter is asked of the content.
+/// The frame of one item on the canvas: it selects, moves and resizes the item with mouse and keys and
+/// carries its name. What the item shows is its content's business, and every parameter is asked of the
+/// content.
 class ScreenItem : public QWidget, public ContentHost
 {
     Q_OBJECT
@@ -66,8 +67,8 @@ public:
     /// The content's values and the name, as layout files and the clipboard hold them.
     QJsonObject toJson();
 
-    /// Takes the name out of the object and reads the content from the rest. False when the content is incomplete
-    /// or there is none.
+    /// Takes the name out of the object and reads the content from the rest. False when the content is
+    /// incomplete or there is none.
     bool fromJson(QJsonObject &object);
 
     /// Hands over an object that lives as long as the frame.
