@@ -32,7 +32,6 @@ QPoint arrowStep(int key)
     }
 }
 
-/// Counts frames without a width or height as well, which united rectangles would leave out.
 /// Every frame has its menu from the start, but few are ever opened: the style sheet dresses them only then.
 class ContextMenu : public QMenu
 {
@@ -56,6 +55,7 @@ private:
     bool m_mayBeDressed = false;
 };
 
+/// Counts frames without a width or height as well, which united rectangles would leave out.
 QRect boundingBox(const QList<ScreenItem *> &frames)
 {
     QPoint nearest = frames.first()->pos();
@@ -94,7 +94,11 @@ ScreenItem::ScreenItem(Screen *screen)
     m_active = false;
 }
 
-ScreenItem::~ScreenItem() = default;
+ScreenItem::~ScreenItem()
+{
+    // The canvas is told once what the frame uncovers, instead of once more for each of its parts.
+    setUpdatesEnabled(false);
+}
 
 void ScreenItem::buildContextMenu()
 {

@@ -42,6 +42,7 @@ private:
     QScopedPointer<BoardFixture> m_board;
     ScreenItem *m_first = nullptr;
     ScreenItem *m_second = nullptr;
+    bool m_wasActive = false;
 };
 
 void tst_ScreenItemFocus::init()
@@ -89,10 +90,10 @@ void tst_ScreenItemFocus::focusMovesActivity()
 void tst_ScreenItemFocus::focusOutTellsBeforeActivityEnds()
 {
     m_board->click(first.center());
-    bool wasActive = false;
-    connect(m_first, &ScreenItem::outFocus, this, [&] { wasActive = m_first->isActive(); });
+    m_wasActive = false;
+    connect(m_first, &ScreenItem::outFocus, this, [this] { m_wasActive = m_first->isActive(); });
     m_first->clearFocus();
-    QVERIFY(wasActive);
+    QVERIFY(m_wasActive);
     QVERIFY(!m_first->isActive());
 }
 

@@ -197,7 +197,7 @@ void tst_ScreenItemMenu::opensAtThePress()
 void tst_ScreenItemMenu::keepsSelectionOfOthers()
 {
     m_second->select();
-    QCOMPARE(menuTexts(first.center()).last(), QString("Delete Layer \"Title\""));
+    QCOMPARE(menuTexts(first.center()).constLast(), QString("Delete Layer \"Title\""));
     QCOMPARE(m_screen->selection(), QList<ScreenItem *>{m_second});
 }
 

@@ -136,6 +136,7 @@ private:
     ScreenItem *m_left = nullptr;
     ScreenItem *m_middle = nullptr;
     ScreenItem *m_right = nullptr;
+    QStringList m_told;
 };
 
 void tst_ScreenItemMouse::initTestCase()
@@ -381,21 +382,21 @@ void tst_ScreenItemMouse::dragTellsEachGeometryAfterItsMove()
     m_middle->select();
     m_board->click(left.center());
     m_board->press(left.center());
-    QStringList told;
-    const auto listen = [&told, this](ScreenItem *frame) {
-        connect(frame, &ScreenItem::newGeometry, this, [&told, this](QRect rect) {
-            told.append(QStringLiteral("%1 %2 %3").arg(rect.x()).arg(m_left->x()).arg(m_middle->x()));
+    m_told.clear();
+    const auto listen = [this](ScreenItem *frame) {
+        connect(frame, &ScreenItem::newGeometry, this, [this](QRect rect) {
+            m_told.append(QStringLiteral("%1 %2 %3").arg(rect.x()).arg(m_left->x()).arg(m_middle->x()));
         });
     };
     listen(m_left);
     listen(m_middle);
     m_board->moveTo(left.center() + QPoint(7, 0));
     // Once by the move itself and once after it, each before the next frame moves.
-    QCOMPARE(told, (QStringList{"107 107 300", "107 107 300", "307 107 307", "307 107 307"}));
-    told.clear();
+    QCOMPARE(m_told, (QStringList{"107 107 300", "107 107 300", "307 107 307", "307 107 307"}));
+    m_told.clear();
     sendMove(m_left, QPointF(40, 30), m_board->globalPosition(left.center()) + QPoint(7, 0), Qt::LeftButton);
     m_board->release();
-    QCOMPARE(told, (QStringList{"107 107 307", "307 107 307"}));
+    QCOMPARE(m_told, (QStringList{"107 107 307", "307 107 307"}));
 }
 
 void tst_ScreenItemMouse::dragLogsUnclampedCorner()
