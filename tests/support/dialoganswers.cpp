@@ -153,6 +153,7 @@ void DialogAnswers::sendAway(QDialog *dialog, const char *reason)
 {
     ++m_failures;
     m_looksAtOne = 0;
+    m_answered = dialog;
     m_answers.clear();
     const QString message = QString("%1: \"%2\"").arg(reason, dialog->windowTitle());
     QTest::qFail(qPrintable(message), __FILE__, __LINE__);

@@ -19,9 +19,10 @@ clean_up() {
 }
 trap clean_up EXIT
 
-# The server picks a free display and tells its number once it takes connections.
+# The server picks a free display and tells its number once it takes connections. No key repeats, however slow
+# the machine is to release it.
 mkfifo "$work/display" "$work/manager"
-Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp 3>"$work/display" 2>"$work/server.log" &
+Xvfb -displayfd 3 -r -screen 0 1280x800x24 -nolisten tcp 3>"$work/display" 2>"$work/server.log" &
 children+=($!)
 read -rt 60 number <"$work/display" || { cat "$work/server.log" >&2; exit 1; }
 export DISPLAY=:$number

@@ -16,10 +16,18 @@ QStringList moveTo(QPoint position)
 
 bool xdotool(const QStringList &arguments, QString *output)
 {
+    // A key that opens a dialog may still be held by its own tool when the dialog gets its answer.
+    static int running = 0;
+    if (!QTest::qWaitFor([] { return running == 0; }, patience))
+        return false;
     QProcess process;
+    QObject::connect(&process, &QProcess::stateChanged, [](QProcess::ProcessState state) {
+        if (state != QProcess::Running)
+            running += state == QProcess::Starting ? 1 : -1;
+    });
     process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     process.start("xdotool", arguments);
-    // Events are handled meanwhile: the tool may wait for a window of this very process.
+    // Events are handled meanwhile: the tool's events are for this very process.
     const bool ended =
         QTest::qWaitFor([&process] { return process.state() == QProcess::NotRunning; }, patience);
     if (output)
@@ -57,10 +65,10 @@ bool drag(QPoint from, QPoint to)
 
 bool pressKey(const QString &key)
 {
-    return xdotool({"key", "--clearmodifiers", key});
+    return xdotool({"key", key});
 }
 
 bool typeText(const QString &text)
 {
-    return xdotool({"type", "--clearmodifiers", text});
+    return xdotool({"type", text});
 }
