@@ -218,9 +218,9 @@ void tst_Screen::fillsWithTheBackgroundColour()
     Screen screen;
     screen.setWidgth(30);
     screen.setHeight(20);
-    screen.setBackgrounColor(QColor("#336699"));
+    screen.setBackgrounColor(QColor(0x33, 0x66, 0x99));
     screen.goToRenderMode();
-    QCOMPARE(painted(screen), filled(QSize(30, 20), QColor("#336699")));
+    QCOMPARE(painted(screen), filled(QSize(30, 20), QColor(0x33, 0x66, 0x99)));
 }
 
 void tst_Screen::drawsTheGridAboveTheBackground()
@@ -382,9 +382,9 @@ void tst_Screen::showsThePanelOfItsOwnItemsOnly()
     screen.setActiveItem(&orphan);
     QCOMPARE(shown.size(), 0);
     screen.setActiveItem(own);
-    QCOMPARE(shown.takeFirst().first().value<ScreenItem *>(), own);
+    QCOMPARE(shown.takeFirst().constFirst().value<ScreenItem *>(), own);
     screen.setActiveItem(nullptr);
-    QCOMPARE(shown.takeFirst().first().value<ScreenItem *>(), nullptr);
+    QCOMPARE(shown.takeFirst().constFirst().value<ScreenItem *>(), nullptr);
 }
 
 void tst_Screen::neverEmitsSelectedItem()

@@ -35,6 +35,9 @@ private slots:
     void movesLayers();
     void ignoresFramesThatAreNotListed();
     void followsTheShortcuts();
+
+private:
+    QStringList m_destroyed; // names of the frames that are gone, in order
 };
 
 namespace
@@ -237,14 +240,13 @@ void tst_ScreenCommands::deletesTheFrameAndTheSelection()
 
 void tst_ScreenCommands::deletesTheFrameItselfLast()
 {
-    QStringList order;
     Board board;
     board.select({"A", "B", "C"});
     for (const ScreenItem *item : board.items())
-        connect(item, &QObject::destroyed, this, [&order, name = item->name()] { order.append(name); });
+        connect(item, &QObject::destroyed, this, [this, name = item->name()] { m_destroyed.append(name); });
     command(board.item("A"), "deleteSlot");
     deleteScheduled();
-    QCOMPARE(order, QStringList({"B", "C", "A"}));
+    QCOMPARE(m_destroyed, QStringList({"B", "C", "A"}));
     QCOMPARE(board.layers(), QStringList("D"));
 }
 

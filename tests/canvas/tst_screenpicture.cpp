@@ -63,13 +63,13 @@ void tst_ScreenPicture::hasTheScreensSize()
     const QImage picture = pictureOfLayout(board({}, sized(width, height)));
     QCOMPARE(picture.size(), QSize(width, height));
     QCOMPARE(picture.devicePixelRatio(), 1.0);
-    QCOMPARE(picture.pixelColor(width - 1, height - 1), QColor("#102030"));
+    QCOMPARE(picture.pixelColor(width - 1, height - 1), QColor(0x10, 0x20, 0x30));
 }
 
 void tst_ScreenPicture::isTheBackgroundWithoutGrid()
 {
     QImage plain(100, 50, QImage::Format_RGB32);
-    plain.fill(QColor("#102030"));
+    plain.fill(QColor(0x10, 0x20, 0x30));
     QCOMPARE(pictureOfLayout(board({}, sized(100, 50))).convertToFormat(QImage::Format_RGB32), plain);
 }
 
