@@ -30,7 +30,7 @@ QPoint groupMove(const QRect &boundingBox, QPoint wanted, QSize screen);
 
 /// A drag of a frame's edge or corner, as it stands at one mouse move.
 struct ResizeDrag {
-    HitZone zone;
+    HitZone zone = HitZone::None;
     QRect frame;    ///< the frame's geometry now
     QSize screen;   ///< the screen's size
     QPoint pointer; ///< the mouse in the frame's own coordinates: where a right or bottom edge goes
