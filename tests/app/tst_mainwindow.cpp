@@ -171,6 +171,7 @@ void tst_MainWindow::startsWithAnEmptyBoardAndNoFile()
     QCOMPARE(window.canvas()->maximumSize(), QSize(800, 400));
     QCOMPARE(window.canvas()->backgroundColor(), QColor(Qt::black));
     QVERIFY(window.canvas()->items().isEmpty());
+    QVERIFY(!window.canvas()->isModified());
 }
 
 void tst_MainWindow::centralAreaHoldsTheScrollAreaWithoutMargin()
