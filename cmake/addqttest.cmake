@@ -26,7 +26,7 @@ function(boardwright_add_test path)
     set_tests_properties(${path} PROPERTIES
         TIMEOUT ${test_TIMEOUT}
         SKIP_RETURN_CODE 77
-        ENVIRONMENT "QT_QPA_PLATFORM=${platform};LC_ALL=C.UTF-8;TZ=UTC;LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/support/lsan.supp;XDG_CONFIG_HOME=${CMAKE_BINARY_DIR}/tests/settings/${name}")
+        ENVIRONMENT "QT_QPA_PLATFORM=${platform};LC_ALL=C.UTF-8;TZ=UTC;LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0;XDG_CONFIG_HOME=${CMAKE_BINARY_DIR}/tests/settings/${name}")
 endfunction()
 
 # Tells a test program where executables of ours are, and has them built first.

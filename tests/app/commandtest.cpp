@@ -43,7 +43,7 @@ void CommandTest::verifyIsTemplate()
 {
     QCOMPARE(m_window->currentPath(), QString(":/assets/resources/empty.lay"));
     QCOMPARE(canvas().size(), QSize(800, 400));
-    QCOMPARE(canvas().backgroundColor(), QColor("#000000"));
+    QCOMPARE(canvas().backgroundColor(), QColor(Qt::black));
     QVERIFY(canvas().items().isEmpty());
     QVERIFY(!canvas().isModified());
 }

@@ -74,8 +74,8 @@ void tst_ExportCommand::exportLeavesOutSelectionAndGrid()
     triggerExport();
     QVERIFY(answers.areUsedUp());
     const QImage picture(path("edited.png"));
-    QCOMPARE(picture.pixelColor(0, 0), QColor("#102030"));
-    QVERIFY(shown.pixelColor(0, 0) != QColor("#102030"));
+    QCOMPARE(picture.pixelColor(0, 0), QColor(0x10, 0x20, 0x30));
+    QVERIFY(shown.pixelColor(0, 0) != QColor(0x10, 0x20, 0x30));
     // The handle in the frame's corner covers the border of the shape.
     QCOMPARE(shown.pixelColor(31, 21), QColor(0, 255, 0));
     QCOMPARE(picture.pixelColor(31, 21).name(), QString("#ffff00"));

@@ -21,7 +21,7 @@ private slots:
     void openingWhatIsNoLayoutGivesAnEmptyCanvas();
     void openingSurvivesBadSizes_data();
     void openingSurvivesBadSizes();
-    void openingTenThousandItemsKeepsThemAll();
+    void openingThousandsOfItemsKeepsThemAll();
     void openingFollowsTheCanvasInTheScrollArea();
     void openCommandAsksForALayFile();
     void openCommandDoesNothingWhenCancelled();
@@ -186,14 +186,14 @@ void tst_OpenCommand::openingSurvivesBadSizes()
     verifyIsTemplate();
 }
 
-void tst_OpenCommand::openingTenThousandItemsKeepsThemAll()
+void tst_OpenCommand::openingThousandsOfItemsKeepsThemAll()
 {
-    writeFile(path("many.lay"), bytesOf(board(manyShapes(10000))));
-    // A hundred thousand lines of the debug log take longer than the board.
+    writeFile(path("many.lay"), bytesOf(board(manyShapes(2000))));
+    // Tens of thousands of lines of the debug log take longer than the board.
     QLoggingCategory::setFilterRules("default.debug=false");
     window().openFile(path("many.lay"));
     QLoggingCategory::setFilterRules(QString());
-    QCOMPARE(canvas().items().size(), 10000);
+    QCOMPARE(canvas().items().size(), 2000);
     QVERIFY(!canvas().isModified());
 }
 
