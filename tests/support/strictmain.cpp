@@ -21,10 +21,12 @@ bool takeExpected(const QString &message)
     return false;
 }
 
-/// The offscreen platform says what it cannot do; that is nobody's fault.
+/// The offscreen platform says what it cannot do, and X clients hear of windows that are gone by now; that is
+/// nobody's fault.
 bool isRemarkOfPlatform(const QString &message)
 {
-    return message.startsWith(QLatin1String("This plugin does not support "));
+    return message.startsWith(QLatin1String("This plugin does not support ")) ||
+           message.startsWith(QLatin1String("QXcbConnection: XCB error: 3 (BadWindow)"));
 }
 
 void failOnWarning(QtMsgType type, const QMessageLogContext &context, const QString &message)
