@@ -1,14 +1,14 @@
 #include "canvas/screenitem.h"
 
 #include "canvas/editmodeborderrenderer.h"
+#include "canvas/itemmenu.h"
 #include "canvas/screen.h"
 #include "model/keys.h"
 #include "model/widgetgeometry.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QDebug>
-#include <QMenu>
+#include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPointer>
 #include <QVBoxLayout>
@@ -32,29 +32,6 @@ QPoint arrowStep(int key)
     }
 }
 
-/// Every frame has its menu from the start, but few are ever opened: the style sheet dresses them only then.
-class ContextMenu : public QMenu
-{
-public:
-    explicit ContextMenu(QWidget *parent) : QMenu(parent) {}
-
-    void dress()
-    {
-        m_mayBeDressed = true;
-        QEvent polish(QEvent::Polish);
-        QCoreApplication::sendEvent(this, &polish);
-    }
-
-protected:
-    bool event(QEvent *event) override
-    {
-        return event->type() == QEvent::Polish && !m_mayBeDressed ? true : QMenu::event(event);
-    }
-
-private:
-    bool m_mayBeDressed = false;
-};
-
 /// Counts frames without a width or height as well, which united rectangles would leave out.
 QRect boundingBox(const QList<ScreenItem *> &frames)
 {
@@ -66,12 +43,6 @@ QRect boundingBox(const QList<ScreenItem *> &frames)
                     qMax(farthest.y(), frame->y() + frame->height())};
     }
     return {nearest, QSize(farthest.x() - nearest.x(), farthest.y() - nearest.y())};
-}
-
-/// A name as a menu shows it: a single ampersand would vanish as the mark of a shortcut key.
-QString menuText(QString name)
-{
-    return name.replace(QLatin1Char('&'), QLatin1String("&&"));
 }
 } // namespace
 
@@ -102,15 +73,14 @@ ScreenItem::~ScreenItem()
 
 void ScreenItem::buildContextMenu()
 {
-    m_contextMenu = new ContextMenu(this);
-    connect(m_contextMenu->addAction(tr("Bring to Front")), &QAction::triggered, this,
-            &ScreenItem::bringToFrontSlot);
-    connect(m_contextMenu->addAction(tr("Send to Back")), &QAction::triggered, this,
-            &ScreenItem::sendToBackSlot);
-    m_duplicateAction = m_contextMenu->addAction(tr("Duplicate Layer"));
-    connect(m_duplicateAction, &QAction::triggered, this, &ScreenItem::duplicateSlot);
-    m_deleteAction = m_contextMenu->addAction(tr("Delete Layer"));
-    connect(m_deleteAction, &QAction::triggered, this, &ScreenItem::deleteSlot);
+    m_contextMenu = new ItemMenu(this);
+    const auto bind = [this](ItemMenu::Entry entry, void (ScreenItem::*slot)()) {
+        connect(m_contextMenu->entry(entry), &QAction::triggered, this, slot);
+    };
+    bind(ItemMenu::BringToFront, &ScreenItem::bringToFrontSlot);
+    bind(ItemMenu::SendToBack, &ScreenItem::sendToBackSlot);
+    bind(ItemMenu::Duplicate, &ScreenItem::duplicateSlot);
+    bind(ItemMenu::Delete, &ScreenItem::deleteSlot);
 }
 
 void ScreenItem::setContent(ContentViewer *content)
@@ -377,22 +347,9 @@ void ScreenItem::showContextMenu(QPoint position)
     // The item may be gone when the menu closes.
     const QPointer<ScreenItem> guard(this);
     m_contextMenuOpen = true;
-    nameMenuActions();
-    // The see-through sheet of the area around the canvas reaches down to here. The application's sheet,
-    // given to the menu itself, has the last word.
-    static_cast<ContextMenu *>(m_contextMenu)->dress();
-    m_contextMenu->setStyleSheet(qApp->styleSheet());
-    m_contextMenu->exec(mapToGlobal(position));
+    m_contextMenu->run(m_name, canvas()->selection().size() >= 2, mapToGlobal(position));
     if (guard)
         m_contextMenuOpen = false;
-}
-
-void ScreenItem::nameMenuActions()
-{
-    const bool several = canvas()->selection().size() >= 2;
-    const QString name = menuText(m_name);
-    m_duplicateAction->setText(several ? tr("Duplicate Layers") : tr("Duplicate Layer \"%1\"").arg(name));
-    m_deleteAction->setText(several ? tr("Delete Layers") : tr("Delete Layer \"%1\"").arg(name));
 }
 
 void ScreenItem::mouseMoveEvent(QMouseEvent *event)

@@ -10,8 +10,7 @@
 #include <vector>
 
 class EditModeBorderRenderer;
-class QAction;
-class QMenu;
+class ItemMenu;
 class QVBoxLayout;
 class Screen;
 
@@ -118,7 +117,6 @@ protected:
 private:
     void buildContextMenu();
     void showContextMenu(QPoint position);
-    void nameMenuActions();
     void setSelected(bool selected);
     void becomeActive();
     void selectByPress();
@@ -139,9 +137,7 @@ private:
     HitZone m_hitZone = HitZone::None;
     QPoint m_pressAnchor; // global mouse position at the last press less the frame's position then
     QVBoxLayout *m_layout = nullptr;
-    QMenu *m_contextMenu = nullptr;
-    QAction *m_duplicateAction = nullptr;
-    QAction *m_deleteAction = nullptr;
+    ItemMenu *m_contextMenu = nullptr;
     ContentViewer *m_content = nullptr;
     EditModeBorderRenderer *m_border = nullptr;
     QString m_name;
