@@ -181,7 +181,7 @@ void MainWindow::exportActionTriggered()
     const QString path = QFileDialog::getSaveFileName(this, tr("Export"), QString(),
                                                       tr("Image file (*.png *.jpg *.jpeg *.bmp)"));
     if (!path.isEmpty())
-        pictureOf(*m_screen).save(path);
+        savePicture(pictureOf(*m_screen), path);
     qDebug("exportActionTriggered");
 }
 

@@ -1,9 +1,20 @@
 #include "canvas/screenpicture.h"
 
 #include "canvas/screen.h"
+#include "model/filewriting.h"
+
+#include <QBuffer>
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QImageWriter>
 
 namespace
 {
+QString text(const char *sourceText)
+{
+    return QCoreApplication::translate("ScreenPicture", sourceText);
+}
+
 // The toolkit's painter works up to this coordinate; the area keeps one picture below a gigabyte.
 constexpr int maximumSide = 32767;
 constexpr qint64 maximumArea = 256 * 1024 * 1024;
@@ -36,4 +47,15 @@ QPixmap pictureOf(Screen &screen)
     const QPixmap picture = painted(screen);
     screen.goOutRenderMode();
     return picture;
+}
+
+QString savePicture(const QPixmap &picture, const QString &path)
+{
+    const QByteArray format = QFileInfo(path).suffix().toLatin1().toLower();
+    if (!QImageWriter::supportedImageFormats().contains(format))
+        return text("a picture's name ends in .png, .jpg, .jpeg or .bmp.");
+    QBuffer bytes;
+    if (!picture.save(&bytes, format.constData()))
+        return text("no picture of this kind can hold the board.");
+    return FileWriting::writeInPlace(path, bytes.data());
 }

@@ -7,3 +7,7 @@ class Screen;
 /// The board as it is shown on the display: exactly the screen's size, without grid and editing borders.
 /// Null for a screen without area and for one that no picture file could hold.
 QPixmap pictureOf(Screen &screen);
+
+/// Writes the picture in the format of the path's suffix, with the toolkit's default quality. Answers why it
+/// could not be written, null on success. The file is not touched before there is something to write into it.
+QString savePicture(const QPixmap &picture, const QString &path);

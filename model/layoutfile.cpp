@@ -1,5 +1,7 @@
 #include "model/layoutfile.h"
 
+#include "model/filewriting.h"
+
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QJsonDocument>
@@ -10,9 +12,6 @@ namespace
 /// More than any layout needs. The parser may take 14 times a file's size, so a larger one could exhaust
 /// memory.
 constexpr qint64 maximumBytes = 256 * 1024 * 1024;
-
-/// A buffer would keep the reason of a failure from us.
-constexpr QIODevice::OpenMode unbuffered = QIODevice::WriteOnly | QIODevice::Unbuffered;
 
 QString text(const char *sourceText)
 {
@@ -29,45 +28,23 @@ QString whyNotReadable(const QFileInfo &info)
     return {};
 }
 
-/// A disk that fills up takes a part in silence and tells why only when it is asked to take the rest.
-bool writeAll(QFileDevice &file, const QByteArray &bytes)
-{
-    qint64 written = 0;
-    while (written < bytes.size()) {
-        const qint64 taken = file.write(bytes.constData() + written, bytes.size() - written);
-        if (taken <= 0)
-            return false;
-        written += taken;
-    }
-    return true;
-}
-
-QString writeInPlace(const QString &filePath, const QByteArray &bytes)
-{
-    QFile file(filePath);
-    if (!file.open(unbuffered) || !writeAll(file, bytes))
-        return file.errorString();
-    file.close();
-    return file.error() == QFileDevice::NoError ? QString() : file.errorString();
-}
-
 /// The next best where no second file can stand beside the old one: after a failure the old bytes go back.
 QString overwrite(const QString &filePath, const QByteArray &bytes)
 {
     QFile old(filePath);
     const QByteArray oldBytes = old.open(QIODevice::ReadOnly) ? old.read(old.size()) : QByteArray();
     old.close();
-    QString error = writeInPlace(filePath, bytes);
+    QString error = FileWriting::writeInPlace(filePath, bytes);
     if (!error.isNull())
-        writeInPlace(filePath, oldBytes);
+        FileWriting::writeInPlace(filePath, oldBytes);
     return error;
 }
 
 QString writeRegular(const QString &filePath, const QByteArray &bytes)
 {
     QSaveFile file(filePath);
-    if (file.open(unbuffered)) {
-        if (!writeAll(file, bytes))
+    if (file.open(FileWriting::unbuffered)) {
+        if (!FileWriting::writeAll(file, bytes))
             return file.errorString();
         if (file.commit())
             return {};
@@ -102,7 +79,7 @@ QString LayoutFile::write(const QString &filePath, const QJsonObject &layout)
     target.setCaching(false);
     const bool existed = target.exists();
     if (existed && !target.isFile())
-        return writeInPlace(filePath, QJsonDocument(layout).toJson());
+        return FileWriting::writeInPlace(filePath, QJsonDocument(layout).toJson());
     // Opening without truncating tells what a plain open for writing would, and harms nothing yet.
     QFile probe(filePath);
     if (!probe.open(QIODevice::WriteOnly | QIODevice::Append))

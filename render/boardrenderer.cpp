@@ -5,28 +5,12 @@
 #include "model/layoutfile.h"
 
 #include <QCoreApplication>
-#include <QFile>
-#include <QFileInfo>
-#include <QImageWriter>
 
 namespace
 {
 QString text(const char *sourceText)
 {
     return QCoreApplication::translate("BoardRenderer", sourceText);
-}
-
-/// The picture goes through a file of ours: the toolkit's own saving by name empties a file whose suffix it
-/// does not know, and does not notice a full disk.
-QString write(const QPixmap &picture, const QString &path)
-{
-    const QByteArray format = QFileInfo(path).suffix().toLatin1().toLower();
-    if (!QImageWriter::supportedImageFormats().contains(format))
-        return text("Cannot write %1: a picture's name ends in .png, .jpg, .jpeg or .bmp.").arg(path);
-    QFile file(path);
-    if (file.open(QIODevice::WriteOnly) && picture.save(&file, format.constData()) && file.flush())
-        return {};
-    return text("Cannot write %1: %2").arg(path, file.errorString());
 }
 } // namespace
 
@@ -44,5 +28,6 @@ QString BoardRenderer::render(const QString &layoutPath, const QString &pictureP
     if (picture.isNull())
         return text("Cannot render %1: no picture can be %2 x %3 pixels.")
             .arg(layoutPath, QString::number(screen.width()), QString::number(screen.height()));
-    return write(picture, picturePath);
+    const QString error = savePicture(picture, picturePath);
+    return error.isNull() ? error : text("Cannot write %1: %2").arg(picturePath, error);
 }

@@ -7,6 +7,7 @@
 
 #include <QImage>
 #include <QPixmap>
+#include <QTemporaryDir>
 
 class tst_ScreenPicture : public QObject
 {
@@ -23,6 +24,11 @@ private slots:
     void putsTheScreenBackIntoEditMode();
     void isNullWhereNoPictureCanBe_data();
     void isNullWhereNoPictureCanBe();
+    void isSavedInTheFormatOfTheSuffix_data();
+    void isSavedInTheFormatOfTheSuffix();
+    void leavesTheFileAloneWhenItCannotSave_data();
+    void leavesTheFileAloneWhenItCannotSave();
+    void saysWhyAFileCannotBeWritten();
 };
 
 namespace
@@ -136,6 +142,60 @@ void tst_ScreenPicture::isNullWhereNoPictureCanBe()
     QFETCH(int, width);
     QFETCH(int, height);
     QVERIFY(pictureOfLayout(board(twoShapes(), sized(width, height))).isNull());
+}
+
+void tst_ScreenPicture::isSavedInTheFormatOfTheSuffix_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QByteArray>("start");
+    QTest::newRow("png") << "board.png" << QByteArray("\x89PNG");
+    QTest::newRow("upper case") << "board.PNG" << QByteArray("\x89PNG");
+    QTest::newRow("jpg") << "board.jpg" << QByteArray("\xff\xd8\xff");
+    QTest::newRow("jpeg") << "board.jpeg" << QByteArray("\xff\xd8\xff");
+    QTest::newRow("bmp") << "board.bmp" << QByteArray("BM");
+}
+
+void tst_ScreenPicture::isSavedInTheFormatOfTheSuffix()
+{
+    QFETCH(QString, name);
+    QFETCH(QByteArray, start);
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(name);
+    QCOMPARE(savePicture(QPixmap(30, 20), path), QString());
+    QCOMPARE(QImage(path).size(), QSize(30, 20));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QVERIFY(file.readAll().startsWith(start));
+}
+
+void tst_ScreenPicture::leavesTheFileAloneWhenItCannotSave_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("no suffix") << "board" << QSize(30, 20);
+    QTest::newRow("suffix of no picture") << "board.lay" << QSize(30, 20);
+    QTest::newRow("no picture") << "board.png" << QSize(0, 0);
+}
+
+void tst_ScreenPicture::leavesTheFileAloneWhenItCannotSave()
+{
+    QFETCH(QString, name);
+    QFETCH(QSize, size);
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(name));
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    QCOMPARE(file.write("precious"), 8);
+    file.close();
+    QVERIFY(!savePicture(QPixmap(size), file.fileName()).isEmpty());
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), QByteArray("precious"));
+}
+
+void tst_ScreenPicture::saysWhyAFileCannotBeWritten()
+{
+    const QTemporaryDir folder;
+    QCOMPARE(savePicture(QPixmap(3, 2), folder.filePath("missing/board.png")),
+             QString("No such file or directory"));
 }
 
 BOARDWRIGHT_TEST_MAIN(tst_ScreenPicture)
