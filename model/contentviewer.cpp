@@ -161,6 +161,13 @@ void ContentViewer::mouseDoubleClickEvent(QMouseEvent *event)
     event->accept();
 }
 
+bool ContentViewer::event(QEvent *event)
+{
+    // Shown by its frame while only this base stands, a content would be dressed by the style sheet twice.
+    const bool isUnfinished = metaObject() == &ContentViewer::staticMetaObject;
+    return event->type() == QEvent::Polish && isUnfinished ? true : QWidget::event(event);
+}
+
 void ContentViewer::initValues(const QString &typeName)
 {
     m_values.insert(Keys::type(), typeName);

@@ -84,7 +84,10 @@ public slots:
     void newGeometrySlot(QRect geometry);
 
 protected:
-    /// Starts the value map off with the type name and the geometry of the frame (this widget's own without one).
+    bool event(QEvent *event) override;
+
+    /// Starts the value map off with the type name and the geometry of the frame (this widget's own without
+    /// one).
     void initValues(const QString &typeName);
 
     /// Writes the four geometry values into the map, without a signal.
