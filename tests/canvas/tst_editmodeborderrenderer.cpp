@@ -3,11 +3,14 @@
 #include "canvas/screen.h"
 #include "canvas/screenitem.h"
 
+#include "tests/canvas/paintwatcher.h"
 #include "tests/support/strictmain.h"
 
 #include <QImage>
 #include <QPainter>
 #include <QTest>
+
+#include <functional>
 
 namespace
 {
@@ -92,9 +95,11 @@ private slots:
     void paintsHandlesInPureGreen();
     void staysInsideTheWidget();
     void losesHandlesWithFocus();
+    void repaintsWhenItsLookChanges();
 
 private:
     void makeActive();
+    bool repaintsAfter(const std::function<void()> &change);
 
     QScopedPointer<Screen> m_screen;
     ScreenItem *m_frame = nullptr;
@@ -242,6 +247,28 @@ void tst_EditModeBorderRenderer::losesHandlesWithFocus()
     QFocusEvent event(QEvent::FocusOut);
     QCoreApplication::sendEvent(m_frame, &event);
     QCOMPARE(painted(*m_border), expectedEdges({100, 50}, 1));
+}
+
+bool tst_EditModeBorderRenderer::repaintsAfter(const std::function<void()> &change)
+{
+    QCoreApplication::processEvents();
+    PaintWatcher border(m_border);
+    change();
+    return QTest::qWaitFor([&] { return border.takeArea().contains(m_border->rect()); }, 2000);
+}
+
+void tst_EditModeBorderRenderer::repaintsWhenItsLookChanges()
+{
+    QVERIFY(QTest::qWaitForWindowExposed(m_screen.data()));
+    QVERIFY(repaintsAfter([this] { m_frame->select(); }));
+    QVERIFY(repaintsAfter([this] { m_frame->activate(); }));
+    QVERIFY(repaintsAfter([this] {
+        QFocusEvent event(QEvent::FocusOut);
+        QCoreApplication::sendEvent(m_frame, &event);
+    }));
+    QVERIFY(repaintsAfter([this] { m_frame->enterRenderMode(); }));
+    QVERIFY(repaintsAfter([this] { m_frame->leaveRenderMode(); }));
+    QVERIFY(repaintsAfter([this] { m_frame->deselect(); }));
 }
 
 BOARDWRIGHT_TEST_MAIN(tst_EditModeBorderRenderer)

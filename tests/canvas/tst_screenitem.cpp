@@ -250,6 +250,7 @@ void tst_ScreenItem::startsWithoutCanvas()
 void tst_ScreenItem::joinsCanvasLater()
 {
     auto *frame = new ScreenItem(nullptr);
+    frame->resize(333, 222);
     frame->attachToScreen(m_screen.data());
     QCOMPARE(frame->canvas(), m_screen.data());
     QCOMPARE(m_screen->items(), (QList<ScreenItem *>{m_frame, frame}));

@@ -32,6 +32,7 @@ private slots:
     void clickGivesFocusAndActivity_data();
     void clickGivesFocusAndActivity();
     void focusMovesActivity();
+    void focusInTellsOnceActive();
     void focusOutTellsBeforeActivityEnds();
     void focusKeepsSelection();
     void freshFrameTakesActivityFromTheFormer();
@@ -85,6 +86,14 @@ void tst_ScreenItemFocus::focusMovesActivity()
     QVERIFY(m_second->isActive());
     QCOMPARE(left.size(), 1);
     QCOMPARE(left.first().first().toBool(), false);
+}
+
+void tst_ScreenItemFocus::focusInTellsOnceActive()
+{
+    m_wasActive = false;
+    connect(m_first, &ScreenItem::inFocus, this, [this] { m_wasActive = m_first->isActive(); });
+    m_board->click(first.center());
+    QVERIFY(m_wasActive);
 }
 
 void tst_ScreenItemFocus::focusOutTellsBeforeActivityEnds()

@@ -2,10 +2,10 @@
 #include "canvas/screenitem.h"
 
 #include "tests/canvas/boardfixture.h"
+#include "tests/canvas/paintwatcher.h"
 #include "tests/support/strictmain.h"
 
 #include <QMouseEvent>
-#include <QPaintEvent>
 #include <QScopedPointer>
 #include <QSignalSpy>
 #include <QTest>
@@ -15,26 +15,6 @@ namespace
 const QRect left(100, 100, 80, 60);
 const QRect middle(300, 100, 80, 60);
 const QRect right(500, 100, 80, 60);
-
-/// Collects the painted area of a widget.
-class PaintWatcher : public QObject
-{
-public:
-    explicit PaintWatcher(QWidget *watched) { watched->installEventFilter(this); }
-
-    QRegion takeArea() { return std::exchange(m_area, QRegion()); }
-
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        if (event->type() == QEvent::Paint)
-            m_area += static_cast<QPaintEvent *>(event)->region();
-        return QObject::eventFilter(watched, event);
-    }
-
-private:
-    QRegion m_area;
-};
 
 /// Notes the types of the mouse events that reach a widget, and keeps them from it.
 class MouseCatcher : public QObject
@@ -112,13 +92,17 @@ private slots:
     void dragOfUnselectedFrameOnlyTells();
     void dragRoundsHalvesAwayFromZero();
     void dragMarksLayoutModified();
+    void dragOfUnselectedFrameWithoutZonePaintsIt();
     void dragPaintsChangedAreaAtOnce();
+    void dragPaintsWholeSelectionAtOnce_data();
+    void dragPaintsWholeSelectionAtOnce();
 
     void dragOfHandleResizes_data();
     void dragOfHandleResizes();
     void dragOfHandleStaysOnBoard_data();
     void dragOfHandleStaysOnBoard();
     void dragOfHandleResizesThisFrameAlone();
+    void dragOfHandleResizesUnselectedFrame();
     void dragOfHandleTellsFinalGeometry();
     void dragOfHandlePaintsChangedAreaAtOnce();
     void dragOfHandleFollowsAnchor();
@@ -437,11 +421,15 @@ void tst_ScreenItemMouse::dragOfUnselectedFrameOnlyTells()
     m_board->moveTo(left.center());
     m_board->press(left.center(), Qt::LeftButton, Qt::ControlModifier);
     QVERIFY(!m_left->isSelected());
+    QCoreApplication::processEvents();
+    PaintWatcher canvas(m_screen);
     const QSignalSpy told(m_left, &ScreenItem::newGeometry);
-    m_board->moveTo(left.center() + QPoint(20, 20));
+    sendMove(m_left, QPointF(60, 50), m_board->globalPosition(left.center()) + QPoint(20, 20),
+             Qt::LeftButton);
+    QVERIFY(canvas.takeArea().isEmpty());
     m_board->release();
     QCOMPARE(m_left->geometry(), left);
-    QVERIFY(!told.isEmpty());
+    QCOMPARE(told.size(), 1);
     QCOMPARE(told.first().first().toRect(), left);
 }
 
@@ -463,6 +451,20 @@ void tst_ScreenItemMouse::dragMarksLayoutModified()
     QVERIFY(m_screen->isModified());
 }
 
+void tst_ScreenItemMouse::dragOfUnselectedFrameWithoutZonePaintsIt()
+{
+    m_board->press(left.center(), Qt::LeftButton, Qt::ControlModifier);
+    m_left->deselect();
+    QCoreApplication::processEvents();
+    PaintWatcher canvas(m_screen);
+    const QSignalSpy told(m_left, &ScreenItem::newGeometry);
+    sendMove(m_left, QPointF(60, 30), m_board->globalPosition(left.center()) + QPoint(20, 0), Qt::LeftButton);
+    QVERIFY(canvas.takeArea().contains(left));
+    m_board->release();
+    QCOMPARE(told.size(), 1);
+    QCOMPARE(m_left->geometry(), left);
+}
+
 void tst_ScreenItemMouse::dragPaintsChangedAreaAtOnce()
 {
     m_board->click(left.center());
@@ -473,6 +475,32 @@ void tst_ScreenItemMouse::dragPaintsChangedAreaAtOnce()
     const QRegion area = canvas.takeArea();
     m_board->release();
     QCOMPARE(area, QRegion(left.united(left.translated(20, 0))));
+}
+
+void tst_ScreenItemMouse::dragPaintsWholeSelectionAtOnce_data()
+{
+    QTest::addColumn<int>("others");
+    QTest::newRow("most frames") << 0;
+    QTest::newRow("few of the frames") << 40;
+}
+
+void tst_ScreenItemMouse::dragPaintsWholeSelectionAtOnce()
+{
+    QFETCH(int, others);
+    for (int i = 0; i < others; ++i)
+        m_board->addShape(QRect(10 * i, 300, 8, 8));
+    m_left->select();
+    m_right->select();
+    m_board->click(left.center());
+    m_board->press(left.center());
+    QCoreApplication::processEvents();
+    PaintWatcher canvas(m_screen);
+    sendMove(m_left, QPointF(60, 30), m_board->globalPosition(left.center()) + QPoint(20, 0), Qt::LeftButton);
+    const QRegion area = canvas.takeArea();
+    m_board->release();
+    const QRegion changed =
+        QRegion(left.united(left.translated(20, 0))) + right.united(right.translated(20, 0));
+    QVERIFY(changed.subtracted(area).isEmpty());
 }
 
 void tst_ScreenItemMouse::dragOfHandleResizes_data()
@@ -546,6 +574,18 @@ void tst_ScreenItemMouse::dragOfHandleResizesThisFrameAlone()
     m_screen->selectAllShortcutActivated();
     m_board->drag(left.topLeft() + QPoint(79, 30), left.topLeft() + QPoint(90, 30));
     QCOMPARE(geometries(m_screen->items()), (QList<QRect>{{100, 100, 90, 60}, middle, right}));
+}
+
+void tst_ScreenItemMouse::dragOfHandleResizesUnselectedFrame()
+{
+    const QPoint edge = left.topLeft() + QPoint(79, 30);
+    m_board->click(left.center());
+    m_board->moveTo(edge);
+    m_board->press(edge, Qt::LeftButton, Qt::ControlModifier);
+    QVERIFY(!m_left->isSelected());
+    m_board->moveTo(edge + QPoint(11, 0));
+    m_board->release();
+    QCOMPARE(m_left->geometry(), QRect(100, 100, 90, 60));
 }
 
 void tst_ScreenItemMouse::dragOfHandleTellsFinalGeometry()
