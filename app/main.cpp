@@ -1,5 +1,4 @@
 #include "app/mainwindow.h"
-#include "assets/assets.h"
 
 #include <QApplication>
 #include <QDebug>
@@ -12,7 +11,6 @@ int main(int argc, char *argv[])
         qputenv("QT_XCB_GL_INTEGRATION", "none");
     QApplication application(argc, argv);
     qDebug() << QSslSocket::sslLibraryBuildVersionString();
-    initAssets();
     MainWindow window(nullptr);
     window.showMaximized();
     return QApplication::exec();
