@@ -27,7 +27,9 @@ public:
 
     // The order of the slots is part of the interface, and so is the spelling of the last one.
 public slots:
+    /// Loads the layout; an empty path does nothing. A failure is told in a box and changes nothing.
     void openFile(QString filePath);
+    /// Writes the layout and keeps the path; an empty one writes nothing. A failure is told in a box.
     void saveFile(QString filePath);
 
 protected slots:
