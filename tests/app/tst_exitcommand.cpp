@@ -11,6 +11,7 @@ private slots:
     void exitQuitsAfterTheBox_data();
     void exitQuitsAfterTheBox();
     void exitAsksAfterASaveToo();
+    void exitWouldSaveIfTheBoxAnsweredSo();
 };
 
 void tst_ExitCommand::exitQuitsWithoutAskingWhenUnchanged()
@@ -64,6 +65,21 @@ void tst_ExitCommand::exitAsksAfterASaveToo()
     answers.press("No");
     QCOMPARE(runUntilExit(), 0);
     QVERIFY(answers.areUsedUp());
+}
+
+// No button of the box answers this; a desktop's own box might.
+void tst_ExitCommand::exitWouldSaveIfTheBoxAnsweredSo()
+{
+    const QString file = openSmallBoard();
+    canvas().newItem("Shape");
+    DialogAnswers answers;
+    answers.act([](QDialog *box) {
+        box->done(QMessageBox::Save);
+        return true;
+    });
+    QCOMPARE(runUntilExit(), 0);
+    QVERIFY(answers.areUsedUp());
+    QCOMPARE(readFile(file), bytesOf(canvas().saveLayout()));
 }
 
 BOARDWRIGHT_TEST_MAIN(tst_ExitCommand)
