@@ -61,6 +61,7 @@ private slots:
     void controlArrowMovesPastTheEdge();
     void shiftArrowGivesEveryMemberTheFocusedWidth_data();
     void shiftArrowGivesEveryMemberTheFocusedWidth();
+    void shiftArrowGivesTheSameWidthInAnyOrder();
     void shiftArrowIsCutToTheCanvas();
     void shiftArrowKnowsNoMinimum();
     void otherKeysLeaveTheGeometry_data();
@@ -167,6 +168,16 @@ void tst_ScreenItemKeys::shiftArrowGivesEveryMemberTheFocusedWidth()
     m_board->type(key, Qt::ShiftModifier);
     QCOMPARE(m_first->geometry(), QRect(first.topLeft(), firstSize));
     QCOMPARE(m_second->geometry(), QRect(second.topLeft(), secondSize));
+}
+
+void tst_ScreenItemKeys::shiftArrowGivesTheSameWidthInAnyOrder()
+{
+    m_screen->clearSelection();
+    m_first->select();
+    m_second->select();
+    m_board->type(Qt::Key_Right, Qt::ShiftModifier);
+    QCOMPARE(m_first->width(), 101);
+    QCOMPARE(m_second->width(), 101);
 }
 
 void tst_ScreenItemKeys::shiftArrowIsCutToTheCanvas()
