@@ -73,9 +73,6 @@ public:
     /// Hands over an object that lives as long as the frame.
     void addAuxiliary(std::unique_ptr<QObject> object);
 
-    /// Passed on to the content, which is transparent for the mouse.
-    void mouseDoubleClickEvent(QMouseEvent *event) override;
-
     // The order of signals and slots is part of the interface.
 signals:
     void inFocus(bool mode);
@@ -108,6 +105,8 @@ protected:
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    /// Passed on to the content, which is transparent for the mouse.
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
