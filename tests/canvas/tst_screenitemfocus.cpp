@@ -4,6 +4,7 @@
 #include "tests/canvas/boardfixture.h"
 #include "tests/support/strictmain.h"
 
+#include <QCoreApplication>
 #include <QFocusEvent>
 #include <QScopedPointer>
 #include <QSignalSpy>
@@ -13,6 +14,26 @@ namespace
 {
 const QRect first(100, 100, 80, 60);
 const QRect second(300, 100, 80, 60);
+
+/// Notes why widgets get the focus.
+class FocusReasons : public QObject
+{
+public:
+    FocusReasons() { qApp->installEventFilter(this); }
+
+    QList<int> noted() const { return m_noted; }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::FocusIn && watched->isWidgetType())
+            m_noted.append(static_cast<QFocusEvent *>(event)->reason());
+        return false;
+    }
+
+private:
+    QList<int> m_noted;
+};
 
 void sendFocus(QWidget *widget, QEvent::Type type)
 {
@@ -36,6 +57,7 @@ private slots:
     void focusOutTellsBeforeActivityEnds();
     void focusKeepsSelection();
     void freshFrameTakesActivityFromTheFormer();
+    void freshFrameTakesFocusForNoParticularReason();
     void renderModeDoesNotReactToFocus();
     void focusInWithoutCanvasIsIgnored();
 
@@ -119,6 +141,13 @@ void tst_ScreenItemFocus::freshFrameTakesActivityFromTheFormer()
     const ScreenItem *fresh = m_board->addShape(QRect(0, 0, 50, 50));
     QVERIFY(!m_first->isActive());
     QVERIFY(fresh->hasFocus() && !fresh->isActive());
+}
+
+void tst_ScreenItemFocus::freshFrameTakesFocusForNoParticularReason()
+{
+    const FocusReasons reasons;
+    m_board->addShape(QRect(0, 0, 50, 50));
+    QCOMPARE(reasons.noted(), QList<int>{Qt::OtherFocusReason});
 }
 
 void tst_ScreenItemFocus::renderModeDoesNotReactToFocus()
