@@ -2,6 +2,7 @@
 
 #include "canvas/screenitem.h"
 
+#include <QEvent>
 #include <QPainter>
 
 namespace
@@ -12,6 +13,12 @@ constexpr int handleLength = 3;
 EditModeBorderRenderer::EditModeBorderRenderer(ScreenItem *owner) : QWidget(owner), m_owner(owner)
 {
     setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+bool EditModeBorderRenderer::event(QEvent *event)
+{
+    // Nothing that a style sheet says shows here, and dressing the border would cost as much as making it.
+    return event->type() == QEvent::Polish || QWidget::event(event);
 }
 
 void EditModeBorderRenderer::paintEvent(QPaintEvent *event)
@@ -44,8 +51,8 @@ void EditModeBorderRenderer::drawHandles(QPainter &painter)
     const int bottom = height() - handleLength;
     const int middleX = qRound(right / 2.0);
     const int middleY = qRound(bottom / 2.0);
-    for (const QPoint corner : {QPoint(0, 0), QPoint(middleX, 0), QPoint(right, 0), QPoint(0, middleY),
-                                QPoint(right, middleY), QPoint(0, bottom), QPoint(middleX, bottom),
-                                QPoint(right, bottom)})
+    for (const QPoint corner :
+         {QPoint(0, 0), QPoint(middleX, 0), QPoint(right, 0), QPoint(0, middleY), QPoint(right, middleY),
+          QPoint(0, bottom), QPoint(middleX, bottom), QPoint(right, bottom)})
         painter.fillRect(QRect(corner, QSize(handleLength, handleLength)), handleColor);
 }

@@ -17,6 +17,9 @@ public:
 public slots:
     void paintEvent(QPaintEvent *event) override;
 
+protected:
+    bool event(QEvent *event) override;
+
 private:
     void drawEdges(QPainter &painter, qreal penWidth);
     void drawHandles(QPainter &painter);

@@ -2,6 +2,7 @@
 
 #include "canvas/dotgrid.h"
 #include "canvas/framegeometry.h"
+#include "canvas/hiddenwhilefilling.h"
 #include "canvas/itemclipboard.h"
 #include "canvas/screenitem.h"
 #include "model/keys.h"
@@ -10,7 +11,6 @@
 #include "model/widgetgeometry.h"
 #include "viewers/contentfactory.h"
 
-#include <QCoreApplication>
 #include <QDebug>
 #include <QDragEnterEvent>
 #include <QDropEvent>
@@ -33,49 +33,6 @@ QString dragFormat()
 {
     return QStringLiteral("screen/screenItem");
 }
-
-/// Hides the canvas while many items are made on it and shows it again: a visible canvas would repaint for
-/// each.
-class HiddenWhileFilling
-{
-public:
-    HiddenWhileFilling(QWidget &canvas, qptrdiff itemCount)
-        : m_canvas(canvas),
-          m_hides(itemCount > 1 && canvas.isVisible())
-    {
-        if (!m_hides)
-            return;
-        // Hiding would hand the focus on to a neighbour of the canvas; the new items are about to take it
-        // anyway.
-        if (QWidget *focused = m_canvas.focusWidget())
-            focused->clearFocus();
-        m_canvas.hide();
-    }
-    ~HiddenWhileFilling()
-    {
-        if (!m_hides)
-            return;
-        m_canvas.show();
-        // The whole area is marked already, so that these cost nothing now; after the next paint each would.
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::UpdateLater);
-    }
-    Q_DISABLE_COPY(HiddenWhileFilling)
-
-    /// Delivers what new widgets have posted to themselves, now and then: the toolkit searches the queue
-    /// often.
-    void itemMade()
-    {
-        if (++m_itemsMade % 200 != 0)
-            return;
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::PolishRequest);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
-    }
-
-private:
-    QWidget &m_canvas;
-    bool m_hides;
-    int m_itemsMade = 0;
-};
 } // namespace
 
 Screen::Screen(QWidget *parent) : QWidget(parent)
@@ -272,7 +229,7 @@ QList<ScreenItem *> Screen::createItems(const QJsonArray &objects)
     for (const QJsonValue &object : objects) {
         if (ScreenItem *item = createItem(object.toObject())) {
             made.append(item);
-            hidden.itemMade();
+            hidden.itemMade(*item);
         }
     }
     return made;
