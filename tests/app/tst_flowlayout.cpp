@@ -235,8 +235,8 @@ void tst_FlowLayout::rowIsAsHighAsItsHighestItem()
 
 void tst_FlowLayout::wideItemStaysInAnEmptyRow()
 {
-    Boxes boxes({{300, 10}, {300, 10}}, 0, 0, 0);
-    QCOMPARE(boxes.placesIn(QRect(0, 0, 100, 100)), Places({{0, 0}, {0, 10}}));
+    Boxes boxes({{300, 10}, {300, 10}}, 0, 0, 5);
+    QCOMPARE(boxes.placesIn(QRect(0, 0, 100, 100)), Places({{0, 0}, {0, 15}}));
 }
 
 void tst_FlowLayout::shrinksTheRectangleByTheMargins()
