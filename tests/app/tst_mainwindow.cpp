@@ -26,6 +26,7 @@ private slots:
     void dressesTheApplicationAndLoadsFontsBeforeTheFirstWidget();
     void buildsTheMenuBarBeforeTheCentralArea();
     void answersACopyOfTheFontFamilies();
+    void letsFontsThatCannotBeBundledHaveStandIns();
     void slotsKeepOrderSpellingAndAccess_data();
     void slotsKeepOrderSpellingAndAccess();
     void startsWithAnEmptyBoardAndNoFile();
@@ -126,6 +127,13 @@ void tst_MainWindow::answersACopyOfTheFontFamilies()
     copy.append("not a family of this program");
     QVERIFY(copy != MainWindow::fontFamilies());
     QCOMPARE(MainWindow::fontFamilies(), FontFamilies::list());
+}
+
+void tst_MainWindow::letsFontsThatCannotBeBundledHaveStandIns()
+{
+    QFont::removeSubstitutions("scoreboard");
+    const MainWindow window(nullptr);
+    QVERIFY(QFont::substitutes("scoreboard").contains("Handjet", Qt::CaseInsensitive));
 }
 
 void tst_MainWindow::slotsKeepOrderSpellingAndAccess_data()
