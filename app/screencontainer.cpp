@@ -29,7 +29,6 @@ void ScreenContainer::setScreen(Screen *screen)
     if (!screen)
         return;
     connect(screen, &Screen::meResized, this, &ScreenContainer::calculateGeometry);
-    calculateGeometry();
     screen->setParent(widget());
     // A change of parent hides a widget and puts it into the corner.
     screen->show();

@@ -18,12 +18,14 @@ private slots:
     void calculatingWithoutAScreenDoesNothing();
     void setScreenTakesTheScreenIntoTheArea();
     void setScreenDeletesTheScreenBefore();
+    void setScreenTakesAScreenThatWasAWindow();
     void setScreenTwiceKeepsTheScreen();
     void setScreenOfNoneLeavesNoScreen();
     void forgetsAScreenThatIsDeletedElsewhere();
     void deletesTheScreenAtTheEnd();
     void centresASmallScreen_data();
     void centresASmallScreen();
+    void areaTakesTheSizeOfTheContainer();
     void areaIsNeverSmallerThanTheScreen();
     void showsNoBarsForASmallScreen();
     void opensALargeScreenScrolledToItsMiddle_data();
@@ -107,6 +109,18 @@ void tst_ScreenContainer::setScreenDeletesTheScreenBefore()
     QVERIFY(next->isVisible());
 }
 
+void tst_ScreenContainer::setScreenTakesAScreenThatWasAWindow()
+{
+    View view({600, 400}, {200, 100});
+    auto *next = new Screen;
+    next->setFixedSize(100, 50);
+    next->show();
+    QVERIFY(QTest::qWaitForWindowExposed(next));
+    view.container.setScreen(next);
+    QCOMPARE(next->mapTo(&view.container, QPoint(0, 0)), QPoint(250, 175));
+    QVERIFY(next->isVisible());
+}
+
 void tst_ScreenContainer::setScreenTwiceKeepsTheScreen()
 {
     View view({600, 400}, {200, 100});
@@ -174,6 +188,17 @@ void tst_ScreenContainer::centresASmallScreen()
     QTRY_COMPARE(view.container.size(), viewSize);
     QCOMPARE(view.place(), place);
     QCOMPARE(view.container.widget()->size(), viewSize);
+}
+
+// The toolkit would see to this only once the area was made resizable.
+void tst_ScreenContainer::areaTakesTheSizeOfTheContainer()
+{
+    View view({600, 400}, {200, 100});
+    QVERIFY(view.isShown());
+    view.container.setWidgetResizable(false);
+    view.container.resize(500, 301);
+    QTRY_COMPARE(view.container.widget()->size(), QSize(500, 301));
+    QCOMPARE(view.place(), QPoint(150, 100));
 }
 
 void tst_ScreenContainer::areaIsNeverSmallerThanTheScreen()
