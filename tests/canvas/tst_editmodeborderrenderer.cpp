@@ -94,6 +94,7 @@ private slots:
     void paintsThickEdgesAndHandlesWhenActive();
     void paintsHandlesInPureGreen();
     void staysInsideTheWidget();
+    void paintsSmoothly();
     void losesHandlesWithFocus();
     void repaintsWhenItsLookChanges();
 
@@ -239,6 +240,21 @@ void tst_EditModeBorderRenderer::staysInsideTheWidget()
     QVERIFY(with != without);
     QPainter(&without).drawImage(m_frame->pos(), with, m_frame->geometry());
     QCOMPARE(with, without);
+}
+
+void tst_EditModeBorderRenderer::paintsSmoothly()
+{
+    m_frame->select();
+    QImage image = transparent({150, 75});
+    QPainter painter(&image);
+    painter.scale(1.5, 1.5);
+    m_border->render(&painter, QPoint(), QRegion(), QWidget::RenderFlags());
+    painter.end();
+    // One and a half pixels wide: whole in the first row, half in the second.
+    int translucent = 0;
+    for (int x = 0; x < image.width(); ++x)
+        translucent += image.pixelColor(x, 1).alpha() % 255 != 0 ? 1 : 0;
+    QVERIFY(translucent > 0);
 }
 
 void tst_EditModeBorderRenderer::losesHandlesWithFocus()
