@@ -6,7 +6,8 @@
 
 int main(int argc, char *argv[])
 {
-    // Nothing here draws with OpenGL; leaving it out halves the start-up work on X11.
+    // Nothing here draws with OpenGL; leaving it out halves the start-up work on X11. The platform asks for
+    // this late, so it cannot be taken back for programs started from here.
     if (!qEnvironmentVariableIsSet("QT_XCB_GL_INTEGRATION"))
         qputenv("QT_XCB_GL_INTEGRATION", "none");
     QApplication application(argc, argv);
