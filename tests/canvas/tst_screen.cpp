@@ -3,6 +3,7 @@
 #include "tests/canvas/shownscreen.h"
 #include "tests/support/boards.h"
 #include "tests/support/strictmain.h"
+#include "viewers/shape.h"
 
 #include <QLoggingCategory>
 #include <QMetaMethod>
@@ -30,15 +31,21 @@ private slots:
     void marksAChangeOfSizeOnly();
     void leavesTheFlagWhenOnlyTheColourChanges();
     void reportsEveryChangeOfSize();
+    void paintsAgainWhenItsLookChanges_data();
+    void paintsAgainWhenItsLookChanges();
     void fillsWithTheBackgroundColour();
+    void paintsAnInvalidColourAsBlack();
     void drawsTheGridAboveTheBackground();
     void paintsTheBackgroundAloneInRenderMode();
     void paintsUnderATranslucentBackground();
     void paintsAHugeCanvasAtOnce();
     void putsItemsIntoAndOutOfRenderMode();
+    void endsEditingInLayerOrderForRenderMode();
     void listsNewFramesOnTop();
     void tellsTheDebugLogAboutNewFrames();
+    void marksEveryFrameThatIsAdded();
     void listsAFrameAgainWhenItIsAddedAgain();
+    void forgetsOneListingForEachReportedEnd();
     void deactivatesTheOthersBeforeShowingThePanel();
     void dropsDestroyedFramesFromBothLists();
     void marksTheDestructionOfAnUnknownItem();
@@ -49,6 +56,7 @@ private slots:
     void leavesItemsAloneInRenderMode();
     void tellsTheDebugLogAboutKeys();
     void deletesTheSelectionWithTheDeleteKey();
+    void deletesWithModifiersAsWell();
     void leavesEverythingAtOtherKeys();
     void restacksItemsInListOrder();
     void diesWithItsItems();
@@ -82,6 +90,19 @@ QImage filled(QSize size, const QColor &color)
     image.fill(color);
     return image;
 }
+
+/// A shape that notes its frame's name when its editing ends.
+class NotingShape : public Shape
+{
+public:
+    NotingShape(ScreenItem *frame, QStringList *ended) : Shape(frame), m_frame(frame), m_ended(ended) {}
+
+    void endEditing() override { m_ended->append(m_frame->name()); }
+
+private:
+    ScreenItem *m_frame;
+    QStringList *m_ended;
+};
 
 /// A screen that counts as not modified.
 void clearModified(Screen &screen)
@@ -124,6 +145,8 @@ void tst_Screen::keepsTheOrderOfSignalsAndSlots()
     QCOMPARE(signaturesFrom("showSettingsFor(ScreenItem*)", 4),
              QStringList({"showSettingsFor(ScreenItem*)", "deactivateFor(ScreenItem*)",
                           "selectedItem(ScreenItem*)", "meResized()"}));
+    // And no other method beside the four and the twelve.
+    QCOMPARE(Screen::staticMetaObject.methodCount() - Screen::staticMetaObject.methodOffset(), 16);
     QCOMPARE(signaturesFrom("screenItemDeleted(QObject*)", 12),
              QStringList({"screenItemDeleted(QObject*)", "setActiveItem(ScreenItem*)", "setWidgth(int)",
                           "setHeight(int)", "setBackgrounColor(QColor)", "goToRenderMode()",
@@ -213,6 +236,27 @@ void tst_Screen::reportsEveryChangeOfSize()
     QCOMPARE(resized.size(), 2);
 }
 
+void tst_Screen::paintsAgainWhenItsLookChanges_data()
+{
+    QTest::addColumn<QByteArray>("slot");
+    QTest::newRow("background colour") << QByteArray("setBackgrounColor");
+    QTest::newRow("into render mode") << QByteArray("goToRenderMode");
+    QTest::newRow("out of render mode") << QByteArray("goOutRenderMode");
+}
+
+void tst_Screen::paintsAgainWhenItsLookChanges()
+{
+    QFETCH(QByteArray, slot);
+    ShownScreen shown;
+    QVERIFY(shown.ready);
+    const EventCounter paints(&shown.screen, QEvent::Paint);
+    if (slot == "setBackgrounColor")
+        shown.screen.setBackgrounColor(Qt::blue);
+    else
+        QVERIFY(QMetaObject::invokeMethod(&shown.screen, slot.constData(), Qt::DirectConnection));
+    QTRY_COMPARE(paints.count, 1);
+}
+
 void tst_Screen::fillsWithTheBackgroundColour()
 {
     Screen screen;
@@ -221,6 +265,16 @@ void tst_Screen::fillsWithTheBackgroundColour()
     screen.setBackgrounColor(QColor(0x33, 0x66, 0x99));
     screen.goToRenderMode();
     QCOMPARE(painted(screen), filled(QSize(30, 20), QColor(0x33, 0x66, 0x99)));
+}
+
+void tst_Screen::paintsAnInvalidColourAsBlack()
+{
+    Screen screen;
+    screen.setWidgth(30);
+    screen.setHeight(20);
+    screen.setBackgrounColor(QColor());
+    screen.goToRenderMode();
+    QCOMPARE(painted(screen), filled(QSize(30, 20), Qt::black));
 }
 
 void tst_Screen::drawsTheGridAboveTheBackground()
@@ -290,6 +344,22 @@ void tst_Screen::putsItemsIntoAndOutOfRenderMode()
         QVERIFY(!item->isInRenderMode());
 }
 
+void tst_Screen::endsEditingInLayerOrderForRenderMode()
+{
+    Screen screen;
+    QStringList ended;
+    for (const char *name : {"A", "B", "C"}) {
+        auto *frame = new ScreenItem(&screen);
+        frame->setMyName(name);
+        new NotingShape(frame, &ended);
+    }
+    screen.bringToFront(screen.items().first());
+    screen.goToRenderMode();
+    QCOMPARE(ended, QStringList({"B", "C", "A"}));
+    screen.goOutRenderMode();
+    QCOMPARE(ended.size(), 3);
+}
+
 void tst_Screen::listsNewFramesOnTop()
 {
     Screen screen;
@@ -314,6 +384,17 @@ void tst_Screen::tellsTheDebugLogAboutNewFrames()
     QLoggingCategory::setFilterRules("default.debug=false");
 }
 
+void tst_Screen::marksEveryFrameThatIsAdded()
+{
+    Screen screen;
+    auto *item = new ScreenItem(nullptr);
+    QCoreApplication::processEvents();
+    QVERIFY(!screen.isModified());
+    screen.addScreenItem(item);
+    QVERIFY(screen.isModified());
+    QCOMPARE(item->parentWidget(), &screen);
+}
+
 void tst_Screen::listsAFrameAgainWhenItIsAddedAgain()
 {
     Screen screen;
@@ -323,6 +404,19 @@ void tst_Screen::listsAFrameAgainWhenItIsAddedAgain()
     QCOMPARE(screen.items(), QList<ScreenItem *>({item, other, item}));
     delete item;
     QCOMPARE(screen.items(), QList<ScreenItem *>({other}));
+}
+
+void tst_Screen::forgetsOneListingForEachReportedEnd()
+{
+    Screen screen;
+    auto *item = new ScreenItem(&screen);
+    auto *other = new ScreenItem(&screen);
+    screen.addScreenItem(item);
+    screen.screenItemDeleted(item);
+    QCOMPARE(screen.items(), QList<ScreenItem *>({other, item}));
+    screen.screenItemDeleted(item);
+    QCOMPARE(screen.items(), QList<ScreenItem *>({other}));
+    delete item;
 }
 
 void tst_Screen::deactivatesTheOthersBeforeShowingThePanel()
@@ -474,6 +568,15 @@ void tst_Screen::deletesTheSelectionWithTheDeleteKey()
     deleteScheduled();
     QCOMPARE(namesOf(screen.items()), QStringList("B"));
     QVERIFY(screen.isModified());
+}
+
+void tst_Screen::deletesWithModifiersAsWell()
+{
+    Screen screen;
+    addItem(screen, "A")->select();
+    QTest::keyClick(&screen, Qt::Key_Delete, Qt::ControlModifier | Qt::ShiftModifier);
+    deleteScheduled();
+    QVERIFY(screen.items().isEmpty());
 }
 
 void tst_Screen::leavesEverythingAtOtherKeys()
