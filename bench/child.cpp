@@ -32,6 +32,7 @@ double milliseconds(const timeval &time)
     for (const QString &argument : command.arguments)
         words.push_back(QFile::encodeName(argument));
     std::vector<char *> pointers;
+    pointers.reserve(words.size() + 1);
     for (QByteArray &word : words)
         pointers.push_back(word.data());
     pointers.push_back(nullptr);

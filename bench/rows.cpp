@@ -35,10 +35,10 @@ private:
     QString workFile(const QString &name) const { return m_workFolder + QLatin1Char('/') + name; }
     QString layout(int items) const;
 
-    Probe inProcess(const char *program, const QStringList &words, const char *key = "cpu",
+    Probe inProcess(const char *name, const QStringList &words, const char *key = "cpu",
                     const QStringList &environment = {}) const;
-    Probe started(const QString &program, const char *key) const;
-    Probe rendered(const QString &program, int items, const char *key) const;
+    Probe started(const QString &name, const char *key) const;
+    Probe rendered(const QString &name, int items, const char *key) const;
 
     void ratio(int goal, const QString &work, const Probe &probe, const Probe &reference, double limit);
     void growth(int goal, const QString &work, const Probe &large, const Probe &small, double span,
@@ -54,7 +54,7 @@ private:
 
 QString RowList::layout(int items) const
 {
-    const QString path = workFile(QStringLiteral("%1.lay").arg(items));
+    QString path = workFile(QStringLiteral("%1.lay").arg(items));
     BenchBoard::write(path, items, QSize(1920, 1080));
     return path;
 }

@@ -44,8 +44,9 @@ Screen::Screen(QWidget *parent) : QWidget(parent)
 
 Screen::~Screen()
 {
-    // While the canvas is still whole, since every frame reports its end.
+    // While the canvas is still whole, since every frame reports its end, be it listed or not.
     deleteAllItems();
+    qDeleteAll(findChildren<ScreenItem *>(QString(), Qt::FindDirectChildrenOnly));
 }
 
 void Screen::bindShortcuts()

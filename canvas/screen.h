@@ -43,7 +43,8 @@ public:
     /// Keeps the selection list in step with a frame's own flag; for the frame alone.
     void noteSelected(ScreenItem *item, bool selected);
 
-    /// Moves the frames by the same step (px), each telling its new geometry, and paints what changed at once.
+    /// Moves the frames by the same step (px), each telling its new geometry, and paints what changed at
+    /// once.
     void moveFrames(const QList<ScreenItem *> &frames, QPoint delta);
 
     /// Raises every frame in layer order, so that widget stacking equals list order.
@@ -63,15 +64,15 @@ public:
     /// The whole layout as a document object.
     QJsonObject saveLayout();
 
-    /// Replaces the whole layout by the document's. What is missing or mistyped there reads as 0, an empty list
-    /// or an invalid colour. Afterwards the layout counts as not modified.
+    /// Replaces the whole layout by the document's. What is missing or mistyped there reads as 0, an empty
+    /// list or an invalid colour. Afterwards the layout counts as not modified.
     void loadLayout(const QJsonObject &document);
 
     /// True when the document holds more items than the canvas takes.
     static bool hasTooManyItems(const QJsonObject &document);
 
-    /// Makes an item from its item object, on top of the others. Null, and nothing made, for kinds that do not come
-    /// from files and on a full canvas.
+    /// Makes an item from its item object, on top of the others. Null, and nothing made, for kinds that do
+    /// not come from files and on a full canvas.
     ScreenItem *createItem(const QJsonObject &object);
 
     // The order of signals and slots is part of the interface.

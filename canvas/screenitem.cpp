@@ -91,9 +91,11 @@ void ScreenItem::setContent(ContentViewer *content)
         content->setAttribute(Qt::WA_TransparentForMouseEvents);
         content->show();
         m_layout->addWidget(content);
+        // By name on purpose, and spelled without blanks, as the toolkit compares them.
+        // clang-format off
         connect(this, SIGNAL(newGeometry(QRect)), content, SLOT(newGeometrySlot(QRect)));
-        connect(content, SIGNAL(valueChanged(QString, QVariant)), this,
-                SIGNAL(valueChanged(QString, QVariant)));
+        connect(content, SIGNAL(valueChanged(QString,QVariant)), this, SIGNAL(valueChanged(QString,QVariant)));
+        // clang-format on
     }
     m_border->raise();
 }

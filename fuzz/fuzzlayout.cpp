@@ -1,3 +1,5 @@
+#include "fuzz/fuzztarget.h"
+
 #include "assets/assets.h"
 #include "canvas/screen.h"
 #include "canvas/screenpicture.h"
@@ -5,7 +7,6 @@
 #include <QApplication>
 #include <QJsonDocument>
 
-#include <cstdint>
 #include <cstdlib>
 
 namespace
@@ -19,6 +20,8 @@ QJsonObject reloaded(Screen &screen, const QJsonObject &layout)
 }
 } // namespace
 
+// The fuzzer says what the parameters look like.
+// NOLINTNEXTLINE(readability-non-const-parameter)
 extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -28,7 +31,8 @@ extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
     return 0;
 }
 
-/// Any bytes are loaded as a layout and painted. A first load may clamp items; after it nothing changes any more.
+/// Any bytes are loaded as a layout and painted. A first load may clamp items; after it nothing changes any
+/// more.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const QByteArray bytes = QByteArray::fromRawData(reinterpret_cast<const char *>(data), int(size));

@@ -33,7 +33,7 @@ int CommandTest::runUntilExit()
 
 QString CommandTest::openSmallBoard()
 {
-    const QString file = path("small.lay");
+    QString file = path("small.lay");
     writeFile(file, bytesOf(smallBoard()));
     m_window->openFile(file);
     return file;

@@ -73,7 +73,7 @@ void tst_OpenCommand::openingFailsInABox()
 
     const QString before = openSmallBoard();
     writeFile(path("bad.lay"), content);
-    QJsonParseError error;
+    QJsonParseError error{};
     QJsonDocument::fromJson(content, &error);
     DialogAnswers answers;
     answers.press("OK");

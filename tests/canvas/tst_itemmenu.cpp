@@ -79,7 +79,7 @@ private slots:
         for (int opening = 0; opening < 2; ++opening) {
             runAndClose(menu, "Title", false);
             const QImage picture = menu.grab().toImage();
-            QCOMPARE(picture.pixelColor(picture.width() - 5, picture.height() / 2), QColor("#454545"));
+            QCOMPARE(picture.pixelColor(picture.width() - 5, picture.height() / 2), QColor(0x45, 0x45, 0x45));
         }
     }
 };

@@ -110,9 +110,9 @@ DialogAnswers &DialogAnswers::escape()
     });
 }
 
-DialogAnswers &DialogAnswers::act(std::function<bool(QDialog *)> answer)
+DialogAnswers &DialogAnswers::act(const std::function<bool(QDialog *)> &answer)
 {
-    m_answers.enqueue(std::move(answer));
+    m_answers.enqueue(answer);
     return *this;
 }
 

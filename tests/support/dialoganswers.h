@@ -42,7 +42,7 @@ public:
     DialogAnswers &escape();
 
     /// Does whatever the test wants. Called again and again until it answers true.
-    DialogAnswers &act(std::function<bool(QDialog *)> answer);
+    DialogAnswers &act(const std::function<bool(QDialog *)> &answer);
 
     /// True when every answer was given, and no dialog came beyond those.
     bool areUsedUp() const { return m_answers.isEmpty() && m_failures == 0; }
