@@ -1,0 +1,54 @@
+#include "editors/fontfamilyedit.h"
+
+#include "model/fontfamilies.h"
+
+#include <QComboBox>
+#include <QDebug>
+#include <QHBoxLayout>
+
+FontFamilyEdit::FontFamilyEdit(QWidget *parent)
+    : VariableEdit("FontFamilyEdit", parent),
+      m_comboBox(new QComboBox(this))
+{
+    // The longest name of all would make the box wider than a panel.
+    m_comboBox->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    auto *row = new QHBoxLayout(this);
+    row->addWidget(m_comboBox);
+    setFocusProxy(m_comboBox);
+    setAvailableValues(FontFamilies::list());
+    connect(m_comboBox, &QComboBox::currentTextChanged, this, &FontFamilyEdit::valueChanged);
+}
+
+void FontFamilyEdit::setValue(QString key, QVariant value)
+{
+    m_key = key;
+    m_comboBox->setAccessibleName(key);
+    // Heard on purpose: a family chosen by the program is told like one of the user.
+    m_comboBox->setCurrentText(value.toString());
+}
+
+QString FontFamilyEdit::getKey()
+{
+    return m_key;
+}
+
+QVariant FontFamilyEdit::getValue()
+{
+    return m_comboBox->currentText();
+}
+
+int FontFamilyEdit::getType()
+{
+    return ContentViewer::Parameters::Font;
+}
+
+void FontFamilyEdit::setAvailableValues(const QStringList &values)
+{
+    m_comboBox->addItems(values);
+}
+
+void FontFamilyEdit::valueChanged(const QString &value)
+{
+    qDebug("void FontFamilyEdit::valueChanged(QString value)");
+    emit valueEdited(m_key, value);
+}

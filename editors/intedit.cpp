@@ -1,0 +1,83 @@
+#include "editors/intedit.h"
+
+#include "editors/keylabel.h"
+
+#include <QDebug>
+#include <QHBoxLayout>
+#include <QSignalBlocker>
+#include <QSpinBox>
+
+namespace
+{
+constexpr int widestLimit = 0x0FFFFFFF;
+}
+
+IntEdit::IntEdit(QWidget *parent)
+    : VariableEdit("IntEdit", parent),
+      m_label(new KeyLabel(this)),
+      m_spinBox(new QSpinBox(this))
+{
+    auto *row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(0);
+    row->addWidget(m_label);
+    row->addWidget(m_spinBox, 1);
+    setFocusProxy(m_spinBox);
+    m_spinBox->setRange(-widestLimit, widestLimit);
+    connect(m_spinBox, QOverload<int>::of(&QSpinBox::valueChanged), this, &IntEdit::valueChanged);
+}
+
+void IntEdit::setValue(QString key, QVariant value)
+{
+    if (key != m_key)
+        adoptKey(key);
+    const QSignalBlocker silence(m_spinBox);
+    m_spinBox->setValue(value.toInt());
+}
+
+QString IntEdit::getKey()
+{
+    return m_key;
+}
+
+QVariant IntEdit::getValue()
+{
+    return m_spinBox->value();
+}
+
+int IntEdit::getType()
+{
+    return ContentViewer::Parameters::Int;
+}
+
+void IntEdit::setLabelText(const QString &text)
+{
+    m_label->showText(text);
+}
+
+void IntEdit::valueChanged(int value)
+{
+    qDebug("void IntEdit::valueChanged(int value)");
+    askLimits();
+    // The value that was entered is told, even where the new limits no longer let it be shown.
+    emit valueEdited(m_key, value);
+}
+
+void IntEdit::adoptKey(const QString &key)
+{
+    m_key = key;
+    setLabelText(key);
+    m_spinBox->setAccessibleName(key);
+}
+
+void IntEdit::askLimits()
+{
+    const QVariant maximum = emit getMax(m_key);
+    const QVariant minimum = emit getMin(m_key);
+    // Heard, limits that cross each other would push the value to and fro for ever.
+    const QSignalBlocker silence(m_spinBox);
+    if (maximum.isValid())
+        m_spinBox->setMaximum(maximum.toInt());
+    if (minimum.isValid())
+        m_spinBox->setMinimum(minimum.toInt());
+}

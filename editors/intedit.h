@@ -1,0 +1,38 @@
+#pragma once
+
+#include "editors/variableedit.h"
+
+class KeyLabel;
+class QSpinBox;
+
+/// Edits a whole number in a spin box with a label. Its range follows the limits that are asked for at every
+/// edit.
+class IntEdit : public VariableEdit
+{
+    Q_OBJECT
+
+public:
+    /// Starts at 0 within -268435455 to 268435455.
+    explicit IntEdit(QWidget *parent = nullptr);
+
+    /// Tells nobody. A value beyond the range is shown as its nearest limit, one that is no number as 0 or as
+    /// the limit nearest to that.
+    void setValue(QString key, QVariant value) override;
+    QString getKey() override;
+    QVariant getValue() override;
+    int getType() override;
+
+    /// Replaces the label until the next key; none hides it. The key stays.
+    void setLabelText(const QString &text);
+
+private slots:
+    void valueChanged(int value);
+
+private:
+    void adoptKey(const QString &key);
+    void askLimits();
+
+    KeyLabel *m_label;
+    QSpinBox *m_spinBox;
+    QString m_key;
+};
