@@ -14,6 +14,8 @@ EnumEdit::EnumEdit(QWidget *parent)
     auto *row = new QHBoxLayout(this);
     row->addWidget(m_label);
     row->addWidget(m_comboBox, 1);
+    // Screen readers take the name of a combo box from its label.
+    m_label->setBuddy(m_comboBox);
     setFocusProxy(m_comboBox);
     connect(m_comboBox, &QComboBox::currentTextChanged, this, &EnumEdit::valueChanged);
 }

@@ -23,6 +23,8 @@ void FontFamilyEdit::setValue(QString key, QVariant value)
 {
     m_key = key;
     m_comboBox->setAccessibleName(key);
+    // Screen readers that take the current text for the name find the key here.
+    m_comboBox->setToolTip(key);
     // Heard on purpose: a family chosen by the program is told like one of the user.
     m_comboBox->setCurrentText(value.toString());
 }

@@ -76,8 +76,9 @@ void IntEdit::askLimits()
     const QVariant minimum = emit getMin(m_key);
     // Heard, limits that cross each other would push the value to and fro for ever.
     const QSignalBlocker silence(m_spinBox);
-    if (maximum.isValid())
+    // Setting a limit, even the same one, lets go of an arrow that is held down.
+    if (maximum.isValid() && maximum.toInt() != m_spinBox->maximum())
         m_spinBox->setMaximum(maximum.toInt());
-    if (minimum.isValid())
+    if (minimum.isValid() && minimum.toInt() != m_spinBox->minimum())
         m_spinBox->setMinimum(minimum.toInt());
 }
