@@ -2,7 +2,10 @@
 
 #include "app/screencontainer.h"
 #include "canvas/screen.h"
+#include "canvas/screenitem.h"
 #include "canvas/screenpicture.h"
+#include "editors/panels/screensettings.h"
+#include "editors/panels/settingseditor.h"
 #include "model/applicationfonts.h"
 #include "model/applicationstyle.h"
 #include "model/fontfamilies.h"
@@ -11,6 +14,7 @@
 
 #include <QApplication>
 #include <QDebug>
+#include <QDockWidget>
 #include <QFileDialog>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -50,6 +54,7 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent)
     setWindowTitle(tr("Boardwright"));
     buildMenus();
     buildCentralArea();
+    buildDocks();
 }
 
 QStringList MainWindow::fontFamilies()
@@ -104,6 +109,29 @@ void MainWindow::buildCentralArea()
     layout->addWidget(m_screenContainer);
 }
 
+void MainWindow::buildDocks()
+{
+    m_settingsEditor = new SettingsEditor;
+    m_screenSettings = new ScreenSettings;
+    auto *settingsDock = new QDockWidget;
+    settingsDock->setMinimumWidth(250);
+    addFixedDock(settingsDock, Qt::RightDockWidgetArea, m_settingsEditor);
+    addFixedDock(new QDockWidget, Qt::BottomDockWidgetArea, m_screenSettings);
+    connect(m_screen, &Screen::showSettingsFor, m_settingsEditor, &SettingsEditor::setActiveItem);
+    // The settings column runs down to the bottom edge.
+    setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
+    m_screenSettings->setScreen(m_screen);
+    m_screenSettings->updateFromScreen();
+}
+
+void MainWindow::addFixedDock(QDockWidget *dock, Qt::DockWidgetArea area, QWidget *panel)
+{
+    dock->setWidget(panel);
+    addDockWidget(area, dock);
+    dock->setTitleBarWidget(new QWidget);
+    dock->setFeatures(QDockWidget::NoDockWidgetFeatures);
+}
+
 void MainWindow::openFile(QString filePath)
 {
     if (filePath.isEmpty())
@@ -119,6 +147,7 @@ void MainWindow::openFile(QString filePath)
     }
     m_screen->loadLayout(document.layout);
     m_currentPath = filePath;
+    m_screenSettings->updateFromScreen();
 }
 
 void MainWindow::saveFile(QString filePath)

@@ -4,9 +4,12 @@
 #include <QStringList>
 
 class QAction;
+class QDockWidget;
 class QMenu;
 class Screen;
 class ScreenContainer;
+class ScreenSettings;
+class SettingsEditor;
 
 /// The editor's one window: the canvas in the middle, the menus and the file commands.
 class MainWindow : public QMainWindow
@@ -44,6 +47,8 @@ protected slots:
 private:
     void buildMenus();
     void buildCentralArea();
+    void buildDocks();
+    void addFixedDock(QDockWidget *dock, Qt::DockWidgetArea area, QWidget *panel);
     QAction *addCommand(QMenu *menu, const QString &text, const QString &keys, void (MainWindow::*command)());
     QString askForLayoutToSave();
     void openEmptyLayout();
@@ -51,6 +56,8 @@ private:
 
     Screen *m_screen = nullptr;
     ScreenContainer *m_screenContainer = nullptr;
+    SettingsEditor *m_settingsEditor = nullptr;
+    ScreenSettings *m_screenSettings = nullptr;
     QAction *m_saveAction = nullptr;
     QString m_currentPath;
 };

@@ -1,11 +1,18 @@
 #include "viewers/shape.h"
 
+#include "editors/checkedit.h"
+#include "editors/coloredit.h"
+#include "editors/enumedit.h"
+#include "editors/intedit.h"
+#include "editors/propertypanel.h"
 #include "model/keys.h"
 #include "model/namedcolor.h"
 #include "model/pixels.h"
 
 #include <QDebug>
 #include <QFont>
+#include <QGridLayout>
+#include <QLabel>
 #include <QPainter>
 #include <QPainterPath>
 #include <QResizeEvent>
@@ -126,7 +133,43 @@ QVariant Shape::getMaxValue(QString key)
 
 void Shape::buildSettingsPanel(QWidget *host)
 {
-    Q_UNUSED(host)
+    auto *panel = new PropertyPanel(this, host);
+    auto *kind = new EnumEdit(panel);
+    auto *align = new EnumEdit(panel);
+    kind->setAvailableValues(getEnumsFor(Key::shape()));
+    align->setAvailableValues(getEnumsFor(Key::align()));
+    panel->bind(kind, Key::shape());
+    panel->bind(align, Key::align());
+    panel->addAreaCategory();
+    addBasicProperties(*panel, kind, align);
+}
+
+void Shape::addBasicProperties(PropertyPanel &panel, EnumEdit *kind, EnumEdit *align)
+{
+    const auto bound = [&panel](VariableEdit *editor, const QString &key) {
+        panel.bind(editor, key);
+        return editor;
+    };
+    VariableEdit *opacity = bound(new IntEdit(&panel), Key::opacity());
+    VariableEdit *fill = bound(new CheckEdit(&panel), Key::fill());
+    VariableEdit *color = bound(new ColorEdit(&panel), Key::color());
+    VariableEdit *border = bound(new CheckEdit(&panel), Key::border());
+    VariableEdit *lineWidth = bound(new IntEdit(&panel), Key::lineWidth());
+    VariableEdit *borderColor = bound(new ColorEdit(&panel), Key::borderColor());
+    PropertyPanel::alignLabels({kind, align, opacity, lineWidth});
+
+    QGridLayout *grid = panel.addCategory(tr("Basic Properties"));
+    grid->setColumnStretch(2, 1);
+    grid->addWidget(kind, 0, 0, 1, 3);
+    grid->addWidget(align, 1, 0, 1, 3);
+    grid->addWidget(opacity, 2, 0, 1, 3);
+    grid->addWidget(fill, 3, 0);
+    grid->addWidget(new QLabel(Key::color()), 3, 1);
+    grid->addWidget(color, 3, 2);
+    grid->addWidget(border, 4, 0);
+    grid->addWidget(new QLabel(Key::borderColor()), 4, 1);
+    grid->addWidget(borderColor, 4, 2);
+    grid->addWidget(lineWidth, 5, 0, 1, 3);
 }
 
 void Shape::mouseDoubleClickEvent(QMouseEvent *event)

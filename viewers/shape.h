@@ -3,6 +3,9 @@
 #include "model/contentviewer.h"
 #include "viewers/shapegeometry.h"
 
+class EnumEdit;
+class PropertyPanel;
+
 /// The content of a shape item: a filled and outlined figure of one of six kinds. Everything it is made of
 /// lives in the value map.
 class Shape : public ContentViewer
@@ -29,6 +32,7 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    static void addBasicProperties(PropertyPanel &panel, EnumEdit *kind, EnumEdit *align);
     ShapeGeometry::Placement placement() const;
     bool isOutlined() const;
     bool isFilled() const;

@@ -1,0 +1,70 @@
+#include "editors/categorybutton.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QTreeWidget>
+
+namespace
+{
+constexpr int headerHeight = 30; // pixels
+constexpr int iconWidth = 15;    // pixels
+
+QLabel *textLabel(const QString &text, QWidget *parent)
+{
+    auto *label = new QLabel(text, parent);
+    QFont font = label->font();
+    font.setWeight(QFont::ExtraLight);
+    label->setFont(font);
+    return label;
+}
+} // namespace
+
+CategoryButton::CategoryButton(QString text, QTreeWidget *tree, QTreeWidgetItem *item)
+    : QWidget(tree),
+      m_item(item),
+      m_icon(new QLabel(this))
+{
+    auto *row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(textLabel(text, this));
+    m_icon->setFixedWidth(iconWidth);
+    row->addWidget(m_icon);
+    row->addStretch();
+    setFixedHeight(headerHeight);
+    setProperty("class", QStringLiteral("CategoryButton"));
+    setStyleSheet(QStringLiteral("background: transparent;"));
+    setFocusPolicy(Qt::TabFocus);
+    setAccessibleName(text);
+    m_item->setExpanded(true);
+    showState();
+}
+
+void CategoryButton::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        ButtonPressed();
+    else
+        QWidget::keyPressEvent(event);
+}
+
+void CategoryButton::mousePressEvent(QMouseEvent *event)
+{
+    Q_UNUSED(event)
+    ButtonPressed();
+}
+
+void CategoryButton::ButtonPressed()
+{
+    m_item->setExpanded(!m_item->isExpanded());
+    showState();
+}
+
+void CategoryButton::showState()
+{
+    const QString image = m_item->isExpanded() ? QStringLiteral(":/assets/interface/widget_down.png")
+                                               : QStringLiteral(":/assets/interface/widget_right.png");
+    m_icon->setStyleSheet(
+        QStringLiteral("background:url(\"%1\"); background-position:center; background-repeat:no-repeat;")
+            .arg(image));
+}

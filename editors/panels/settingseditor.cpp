@@ -1,0 +1,96 @@
+#include "editors/panels/settingseditor.h"
+
+#include "canvas/screenitem.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QVBoxLayout>
+
+namespace
+{
+constexpr int columnWidth = 320; // pixels
+constexpr int nameSpacing = 10;  // pixels
+} // namespace
+
+SettingsEditor::SettingsEditor(QWidget *parent) : QScrollArea(parent)
+{
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    setWidgetResizable(true);
+    auto *inner = new QWidget;
+    m_layout = new QVBoxLayout(inner);
+    m_nameLabel = new QLabel(tr("Name"), inner);
+    m_nameEdit = new QLineEdit(inner);
+    m_nameLabel->setBuddy(m_nameEdit);
+    setWidget(inner);
+    setObjectName(QStringLiteral("SettingsEditor"));
+    addNameRow();
+    showName(false);
+    setStyleSheet(QStringLiteral("background-color:#454545;"));
+    setFixedWidth(columnWidth);
+}
+
+void SettingsEditor::addNameRow()
+{
+    auto *row = new QHBoxLayout;
+    row->setSpacing(nameSpacing);
+    row->addWidget(m_nameLabel);
+    row->addWidget(m_nameEdit);
+    m_layout->addLayout(row);
+    m_layout->setAlignment(row, Qt::AlignTop);
+}
+
+void SettingsEditor::showName(bool isShown)
+{
+    m_nameEdit->setVisible(isShown);
+    m_nameLabel->setVisible(isShown);
+}
+
+void SettingsEditor::setActiveItem(ScreenItem *item)
+{
+    if (item == m_item && (item || !m_container))
+        return;
+    if (m_item)
+        disconnect(m_item, &QObject::destroyed, this, &SettingsEditor::itemDeleted);
+    dropContainer();
+    m_item = item;
+    showName(item);
+    if (!item)
+        return;
+    followName();
+    buildPanel();
+    connect(item, &QObject::destroyed, this, &SettingsEditor::itemDeleted);
+}
+
+void SettingsEditor::followName()
+{
+    // Everything that was connected before, so that the former item keeps its name.
+    m_nameEdit->disconnect();
+    m_nameEdit->setText(m_item->name());
+    connect(m_nameEdit, &QLineEdit::textChanged, m_item.data(), &ScreenItem::setMyName);
+}
+
+void SettingsEditor::buildPanel()
+{
+    m_container = new QWidget(widget());
+    m_layout->addWidget(m_container, 1);
+    m_item->buildSettingsPanel(m_container);
+    m_container->show();
+}
+
+void SettingsEditor::itemDeleted(QObject *sndr)
+{
+    Q_UNUSED(sndr)
+    dropContainer();
+    showName(false);
+}
+
+void SettingsEditor::dropContainer()
+{
+    if (!m_container)
+        return;
+    // Not at once: the call may come out of one of its own editors.
+    m_layout->removeWidget(m_container);
+    m_container->hide();
+    m_container->deleteLater();
+    m_container = nullptr;
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QPointer>
+#include <QScrollArea>
+
+class QLabel;
+class QLineEdit;
+class QVBoxLayout;
+class ScreenItem;
+
+/// The column in which the active item is edited: its name, and below it the panel that its content builds.
+class SettingsEditor : public QScrollArea
+{
+    Q_OBJECT
+
+public:
+    explicit SettingsEditor(QWidget *parent = nullptr);
+
+public slots:
+    /// Shows this item's panel; none with null. The item that is shown already keeps its panel.
+    void setActiveItem(ScreenItem *item);
+
+    /// Empties the panel of an item that is going.
+    void itemDeleted(QObject *sndr);
+
+private:
+    void addNameRow();
+    void showName(bool isShown);
+    void followName();
+    void buildPanel();
+    void dropContainer();
+
+    QPointer<ScreenItem> m_item; // never a dead item: a new one may get its address
+    QPointer<QWidget> m_container;
+    QVBoxLayout *m_layout;
+    QLabel *m_nameLabel;
+    QLineEdit *m_nameEdit;
+};
