@@ -52,6 +52,7 @@ void PropertyPanel::bind(VariableEdit *editor, const QString &key)
     connect(editor, &VariableEdit::valueEdited, this, &PropertyPanel::editValue);
     connectLimits(editor);
     editor->layout()->setContentsMargins(0, 0, 0, 0);
+    editor->layout()->setSpacing(0);
     m_editors.append(editor);
 }
 
