@@ -2,6 +2,8 @@
 
 #include "editors/variableedit.h"
 
+#include <utility>
+
 namespace
 {
 EditLog *current = nullptr;
@@ -33,9 +35,7 @@ EditLog::~EditLog()
 
 QStringList EditLog::takeLines()
 {
-    const QStringList lines = m_lines;
-    m_lines.clear();
-    return lines;
+    return std::exchange(m_lines, {});
 }
 
 QStringList EditLog::takeEdits()
