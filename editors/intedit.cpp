@@ -55,6 +55,12 @@ void IntEdit::setLabelText(const QString &text)
     m_label->showText(text);
 }
 
+void IntEdit::setMinimum(int minimum)
+{
+    const QSignalBlocker silence(m_spinBox);
+    m_spinBox->setMinimum(minimum);
+}
+
 void IntEdit::valueChanged(int value)
 {
     qDebug("void IntEdit::valueChanged(int value)");

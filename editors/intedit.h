@@ -25,6 +25,9 @@ public:
     /// Replaces the label until the next key; none hides it. The key stays.
     void setLabelText(const QString &text);
 
+    /// Starts with a lower limit, for as long as nobody answers with another one. Tells nobody.
+    void setMinimum(int minimum);
+
 private slots:
     void valueChanged(int value);
 

@@ -1,0 +1,5 @@
+boardwright_add_test(editors/tst_enumedit LINK boardwright_editors SOURCES editors/editlog.cpp editors/editlog.h)
+boardwright_add_test(editors/tst_fontfamilyedit LINK boardwright_editors SOURCES editors/editlog.cpp editors/editlog.h)
+boardwright_add_test(editors/tst_intedit LINK boardwright_editors SOURCES editors/editlog.cpp editors/editlog.h)
+boardwright_add_test(editors/tst_textedit LINK boardwright_editors SOURCES editors/editlog.cpp editors/editlog.h)
+boardwright_add_test(editors/tst_variableedit LINK boardwright_editors)

@@ -80,6 +80,7 @@ private slots:
     void tellsTypedValueThatNewLimitClamps();
     void tellsOnceWhenLimitsCross();
     void refusesDigitsBeyondLimit();
+    void startsWithGivenMinimumInSilence();
 
     void hasFocusInItsSpinBox();
     void namesItsSpinBoxByTheKey();
@@ -398,6 +399,20 @@ void tst_IntEdit::refusesDigitsBeyondLimit()
     shown.type("700");
     QCOMPARE(log.takeEdits(), QStringList({"valueEdited X int 7", "valueEdited X int 70"}));
     QCOMPARE(shown.edit.getValue(), QVariant(70));
+}
+
+void tst_IntEdit::startsWithGivenMinimumInSilence()
+{
+    Shown shown;
+    EditLog log(&shown.edit);
+    shown.edit.setMinimum(7);
+    QCOMPARE(log.takeLines(), QStringList());
+    QCOMPARE(shown.edit.getValue(), QVariant(7));
+    QTest::keyClick(shown.spinBox, Qt::Key_Down);
+    QCOMPARE(log.takeLines(), QStringList());
+    log.minimum = -1;
+    QTest::keyClick(shown.spinBox, Qt::Key_Up);
+    QCOMPARE(shown.spinBox->minimum(), -1);
 }
 
 void tst_IntEdit::hasFocusInItsSpinBox()
