@@ -27,8 +27,8 @@ void layOut(QWidget *holder, QAbstractButton *button)
     auto *row = new QHBoxLayout(holder);
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(button, 0, Qt::AlignLeft);
-    // The application's style sheet makes push buttons higher than this one is to be.
-    holder->setStyleSheet(QStringLiteral("QPushButton{min-height:0;padding:0;}"));
+    // The application's style sheet makes push buttons higher; here they are 20 pixels with their border.
+    holder->setStyleSheet(QStringLiteral("QPushButton{min-height:18px;border:1px solid #808080;padding:0;}"));
 }
 } // namespace
 

@@ -9,6 +9,8 @@ ColorListEditor::ColorListEditor(QWidget *parent) : QComboBox(parent)
         addItem(name, QColor(name));
         setItemData(count() - 1, QColor(name), Qt::DecorationRole);
     }
+    connect(this, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+            [this] { emit colorChanged(color()); });
 }
 
 QColor ColorListEditor::color() const

@@ -7,7 +7,7 @@
 class ColorListEditor : public QComboBox
 {
     Q_OBJECT
-    Q_PROPERTY(QColor color READ color WRITE setColor)
+    Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged)
 
 public:
     explicit ColorListEditor(QWidget *parent = nullptr);
@@ -17,4 +17,7 @@ public:
 
     /// Selects the first item of this colour; without such an item none is selected.
     void setColor(const QColor &color);
+
+signals:
+    void colorChanged(QColor color);
 };
