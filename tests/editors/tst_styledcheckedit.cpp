@@ -25,7 +25,7 @@ struct Shown {
 
     QString image(const QColor &color)
     {
-        const QString path = folder.filePath(color.name().mid(1) + ".png");
+        QString path = folder.filePath(color.name().mid(1) + ".png");
         QImage picture(30, 30, QImage::Format_RGB32);
         picture.fill(color);
         if (!picture.save(path))
