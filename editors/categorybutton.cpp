@@ -3,6 +3,8 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QStyleOptionFocusRect>
+#include <QStylePainter>
 #include <QTreeWidget>
 
 namespace
@@ -38,6 +40,8 @@ CategoryButton::CategoryButton(QString text, QTreeWidget *tree, QTreeWidgetItem 
     setAccessibleName(text);
     m_item->setExpanded(true);
     showState();
+    connect(tree, &QTreeWidget::itemExpanded, this, &CategoryButton::showState);
+    connect(tree, &QTreeWidget::itemCollapsed, this, &CategoryButton::showState);
 }
 
 void CategoryButton::keyPressEvent(QKeyEvent *event)
@@ -52,6 +56,16 @@ void CategoryButton::mousePressEvent(QMouseEvent *event)
 {
     Q_UNUSED(event)
     ButtonPressed();
+}
+
+void CategoryButton::paintEvent(QPaintEvent *event)
+{
+    Q_UNUSED(event)
+    if (!hasFocus())
+        return;
+    QStyleOptionFocusRect option;
+    option.initFrom(this);
+    QStylePainter(this).drawPrimitive(QStyle::PE_FrameFocusRect, option);
 }
 
 void CategoryButton::ButtonPressed()

@@ -27,6 +27,7 @@ bool takesValues(const QObject *object)
 PropertyPanel::PropertyPanel(ContentViewer *content, QWidget *host) : QTreeWidget(host), m_content(content)
 {
     auto *layout = new QVBoxLayout(host);
+    layout->setContentsMargins(0, 0, 0, 0);
     header()->hide();
     clear();
     setRootIsDecorated(false);
@@ -93,6 +94,24 @@ QTreeWidgetItem *PropertyPanel::addRow(QTreeWidgetItem *category)
     auto *row = new QTreeWidgetItem(category);
     row->setFlags(row->flags() & ~Qt::ItemIsSelectable);
     return row;
+}
+
+void PropertyPanel::orderFocus()
+{
+    // An editor is moved with everything in it, but only when it has a focus policy itself.
+    QList<QWidget *> stops;
+    for (int i = 0; i < topLevelItemCount(); ++i) {
+        stops.append(itemWidget(topLevelItem(i), 0));
+        const QLayout *grid = itemWidget(topLevelItem(i)->child(0), 0)->layout();
+        for (int j = 0; j < grid->count(); ++j) {
+            if (QWidget *editor = grid->itemAt(j)->widget(); editor->focusProxy()) {
+                editor->setFocusPolicy(editor->focusProxy()->focusPolicy());
+                stops.append(editor);
+            }
+        }
+    }
+    for (int i = 1; i < stops.size(); ++i)
+        setTabOrder(stops.at(i - 1), stops.at(i));
 }
 
 void PropertyPanel::addAreaCategory()

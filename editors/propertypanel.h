@@ -28,6 +28,9 @@ public:
     /// Adds a category and answers the grid for its rows.
     QGridLayout *addCategory(const QString &text);
 
+    /// Lets the tab key walk the finished panel from top to bottom, whatever the order in which it was made.
+    void orderFocus();
+
     /// Adds the category "Area (px)" with the editors of the four geometry values.
     void addAreaCategory();
 

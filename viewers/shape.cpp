@@ -142,6 +142,7 @@ void Shape::buildSettingsPanel(QWidget *host)
     panel->bind(align, Key::align());
     panel->addAreaCategory();
     addBasicProperties(*panel, kind, align);
+    panel->orderFocus();
 }
 
 void Shape::addBasicProperties(PropertyPanel &panel, EnumEdit *kind, EnumEdit *align)
@@ -154,7 +155,9 @@ void Shape::addBasicProperties(PropertyPanel &panel, EnumEdit *kind, EnumEdit *a
     VariableEdit *fill = bound(new CheckEdit(&panel), Key::fill());
     VariableEdit *color = bound(new ColorEdit(&panel), Key::color());
     VariableEdit *border = bound(new CheckEdit(&panel), Key::border());
-    VariableEdit *lineWidth = bound(new IntEdit(&panel), Key::lineWidth());
+    auto *lineWidth = new IntEdit(&panel);
+    lineWidth->setMinimum(0);
+    panel.bind(lineWidth, Key::lineWidth());
     VariableEdit *borderColor = bound(new ColorEdit(&panel), Key::borderColor());
     PropertyPanel::alignLabels({kind, align, opacity, lineWidth});
 
