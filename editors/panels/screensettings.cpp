@@ -48,6 +48,8 @@ void ScreenSettings::setScreen(Screen *screen)
 
 void ScreenSettings::updateFromScreen()
 {
+    if (!m_screen)
+        return;
     m_width->setValue(m_screen->width());
     m_height->setValue(m_screen->height());
     m_color->setValue(Keys::backgroundColor(), m_screen->backgroundColor());

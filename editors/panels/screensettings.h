@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPointer>
 #include <QWidget>
 
 class ColorEdit;
@@ -15,15 +16,15 @@ public:
     explicit ScreenSettings(QWidget *parent = nullptr);
 
     /// Shows the canvas's values as they are now. A length beyond the range of its box is shown, and written
-    /// back, as the nearest that is possible.
+    /// back where the box showed another before, as the nearest that is possible. Nothing without a canvas.
     void updateFromScreen();
 
 public slots:
-    /// Binds the bar to the canvas, which has to outlive it; to be called once.
+    /// Shows the canvas's values and edits them from now on; to be called once.
     void setScreen(Screen *screen);
 
 private:
-    Screen *m_screen = nullptr;
+    QPointer<Screen> m_screen;
     QSpinBox *m_height;
     QSpinBox *m_width;
     ColorEdit *m_color;

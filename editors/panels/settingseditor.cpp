@@ -49,8 +49,6 @@ void SettingsEditor::setActiveItem(ScreenItem *item)
 {
     if (item == m_item && (item || !m_container))
         return;
-    if (m_item)
-        disconnect(m_item, &QObject::destroyed, this, &SettingsEditor::itemDeleted);
     dropContainer();
     m_item = item;
     showName(item);
@@ -58,13 +56,14 @@ void SettingsEditor::setActiveItem(ScreenItem *item)
         return;
     followName();
     buildPanel();
-    connect(item, &QObject::destroyed, this, &SettingsEditor::itemDeleted);
+    m_ending = connect(item, &QObject::destroyed, this, &SettingsEditor::itemDeleted);
 }
 
 void SettingsEditor::followName()
 {
-    // Everything that was connected before, so that the former item keeps its name.
-    m_nameEdit->disconnect();
+    // Whoever listened before, so that the former item keeps its name. Not to everything: style sheets have
+    // to hear of the end of every widget.
+    disconnect(m_nameEdit, &QLineEdit::textChanged, nullptr, nullptr);
     m_nameEdit->setText(m_item->name());
     connect(m_nameEdit, &QLineEdit::textChanged, m_item.data(), &ScreenItem::setMyName);
 }
@@ -86,11 +85,23 @@ void SettingsEditor::itemDeleted(QObject *sndr)
 
 void SettingsEditor::dropContainer()
 {
+    // By its handle: an item that is about to go is no longer held, but has yet to tell.
+    disconnect(m_ending);
     if (!m_container)
         return;
-    // Not at once: the call may come out of one of its own editors.
-    m_layout->removeWidget(m_container);
-    m_container->hide();
-    m_container->deleteLater();
+    QWidget *container = m_container;
     m_container = nullptr;
+    m_layout->removeWidget(container);
+    container->hide();
+    forgetItemOf(*container);
+    // Not at once: the call may come out of one of its own editors.
+    container->deleteLater();
+}
+
+void SettingsEditor::forgetItemOf(const QWidget &container)
+{
+    if (!m_item)
+        return;
+    for (const QObject *panel : container.children())
+        m_item->disconnect(panel);
 }

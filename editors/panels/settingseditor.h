@@ -29,9 +29,11 @@ private:
     void followName();
     void buildPanel();
     void dropContainer();
+    void forgetItemOf(const QWidget &container);
 
     QPointer<ScreenItem> m_item; // never a dead item: a new one may get its address
     QPointer<QWidget> m_container;
+    QMetaObject::Connection m_ending; // the end of the item, as it reaches itemDeleted()
     QVBoxLayout *m_layout;
     QLabel *m_nameLabel;
     QLineEdit *m_nameEdit;

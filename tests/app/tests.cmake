@@ -2,6 +2,7 @@ add_library(boardwright_commandtest STATIC app/commandtest.cpp app/commandtest.h
 target_link_libraries(boardwright_commandtest PUBLIC boardwright_app boardwright_testsupport)
 
 boardwright_add_test(app/tst_mainwindow LINK boardwright_app)
+boardwright_add_test(app/tst_docks LINK boardwright_commandtest)
 foreach(command new open save export exit)
     boardwright_add_test(app/tst_${command}command LINK boardwright_commandtest)
 endforeach()

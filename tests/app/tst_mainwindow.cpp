@@ -82,7 +82,7 @@ private:
 struct ShownWindow : MainWindow {
     ShownWindow()
     {
-        resize(1000, 700);
+        resize(1200, 700);
         show();
     }
 };

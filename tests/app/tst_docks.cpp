@@ -1,0 +1,303 @@
+#include "app/mainwindow.h"
+
+#include "app/screencontainer.h"
+#include "canvas/screen.h"
+#include "canvas/screenitem.h"
+#include "editors/coloredit.h"
+#include "editors/panels/screensettings.h"
+#include "editors/panels/settingseditor.h"
+#include "editors/propertypanel.h"
+#include "tests/app/commandtest.h"
+
+#include <QDockWidget>
+#include <QLabel>
+#include <QLineEdit>
+#include <QScrollBar>
+#include <QSpinBox>
+
+// The docks of the window: where they lie, and how their panels and the canvas work together.
+class tst_Docks : public CommandTest
+{
+    Q_OBJECT
+
+private slots:
+    void hasOneDockForEachPanel();
+    void docksAreFixedAndShowNoTitle_data();
+    void docksAreFixedAndShowNoTitle();
+    void settingsDockTakesTheWidthOfItsColumn();
+    void settingsColumnRunsTheFullHeight();
+    void screenSettingsLieBelowTheCanvas();
+    void startsWithTheValuesOfTheCanvas();
+    void clickOnAShapeShowsItsNameAndPanel();
+    void clickOnTheBackgroundEmptiesThePanel();
+    void newItemShowsItsPanel();
+    void severalSelectedItemsShowNoPanel();
+    void deletingTheItemEmptiesThePanel();
+    void editMarksTheLayoutModified();
+    void panelFitsTheColumn();
+    void everyLoadReadsTheScreenAgain();
+    void loadWritesClampedLengthsBack();
+    void failedLoadKeepsWhatIsShown();
+    void heightAndWidthAreEditedInTheBar();
+    void loadingKeepsTheArrangement();
+
+private:
+    SettingsEditor *column() const { return window().findChild<SettingsEditor *>(); }
+    ScreenSettings *bar() const { return window().findChild<ScreenSettings *>(); }
+    QDockWidget *dockOf(const QWidget *panel) const
+    {
+        return qobject_cast<QDockWidget *>(panel->parentWidget());
+    }
+    QDockWidget *dock(bool ofColumn) const { return ofColumn ? dockOf(column()) : dockOf(bar()); }
+
+    QLineEdit *nameEdit() const
+    {
+        return column()->widget()->findChild<QLineEdit *>(QString(), Qt::FindDirectChildrenOnly);
+    }
+    QSize shownSize() const;
+    VariableEdit *edit(const QString &key) const;
+    bool isEmpty() const;
+    QRect inWindow(const QWidget *widget) const;
+    void click(QPoint position, Qt::KeyboardModifiers modifiers = {}) const;
+    void open(const QJsonObject &document);
+};
+
+QSize tst_Docks::shownSize() const
+{
+    const QList<QSpinBox *> boxes = bar()->findChildren<QSpinBox *>();
+    return {boxes.at(1)->value(), boxes.at(0)->value()};
+}
+
+VariableEdit *tst_Docks::edit(const QString &key) const
+{
+    const QList<VariableEdit *> edits = column()->findChildren<VariableEdit *>();
+    for (VariableEdit *edit : edits) {
+        if (edit->isVisible() && edit->getKey() == key)
+            return edit;
+    }
+    return nullptr;
+}
+
+bool tst_Docks::isEmpty() const
+{
+    const auto *panel = column()->findChild<PropertyPanel *>();
+    return !nameEdit()->isVisible() && (!panel || !panel->isVisible());
+}
+
+QRect tst_Docks::inWindow(const QWidget *widget) const
+{
+    return {widget->mapTo(&window(), QPoint(0, 0)), widget->size()};
+}
+
+void tst_Docks::click(QPoint position, Qt::KeyboardModifiers modifiers) const
+{
+    QTest::mouseClick(window().windowHandle(), Qt::LeftButton, modifiers,
+                      canvas().mapTo(&window(), position));
+}
+
+void tst_Docks::open(const QJsonObject &document)
+{
+    writeFile(path("board.lay"), bytesOf(document));
+    window().openFile(path("board.lay"));
+}
+
+void tst_Docks::hasOneDockForEachPanel()
+{
+    QVERIFY(dockOf(column()));
+    QVERIFY(dockOf(bar()));
+    QCOMPARE(dockOf(column())->widget(), column());
+    QCOMPARE(dockOf(bar())->widget(), bar());
+    QCOMPARE(window().dockWidgetArea(dockOf(column())), Qt::RightDockWidgetArea);
+    QCOMPARE(window().dockWidgetArea(dockOf(bar())), Qt::BottomDockWidgetArea);
+    QCOMPARE(window().corner(Qt::BottomRightCorner), Qt::RightDockWidgetArea);
+}
+
+void tst_Docks::docksAreFixedAndShowNoTitle_data()
+{
+    QTest::addColumn<bool>("isColumn");
+    QTest::newRow("settings") << true;
+    QTest::newRow("screen settings") << false;
+}
+
+void tst_Docks::docksAreFixedAndShowNoTitle()
+{
+    QFETCH(bool, isColumn);
+
+    const QDockWidget *fixed = dock(isColumn);
+    QCOMPARE(fixed->features(), QDockWidget::DockWidgetFeatures(QDockWidget::NoDockWidgetFeatures));
+    QVERIFY(fixed->titleBarWidget());
+    QCOMPARE(fixed->titleBarWidget()->metaObject()->className(), "QWidget");
+    QVERIFY(fixed->titleBarWidget()->children().isEmpty());
+    QCOMPARE(fixed->windowTitle(), QString());
+    QVERIFY(fixed->isVisible());
+    QVERIFY(!fixed->isFloating());
+}
+
+void tst_Docks::settingsDockTakesTheWidthOfItsColumn()
+{
+    QVERIFY(dockOf(column())->minimumWidth() >= 250);
+    QCOMPARE(dockOf(column())->width(), 320);
+    QCOMPARE(column()->width(), 320);
+}
+
+void tst_Docks::settingsColumnRunsTheFullHeight()
+{
+    const QRect settings = inWindow(dockOf(column()));
+    QCOMPARE(settings.top(), window().menuBar()->height());
+    QCOMPARE(settings.bottom(), window().rect().bottom());
+    QCOMPARE(settings.right(), window().rect().right());
+}
+
+void tst_Docks::screenSettingsLieBelowTheCanvas()
+{
+    const QRect settings = inWindow(dockOf(bar()));
+    QCOMPARE(settings.left(), 0);
+    QCOMPARE(settings.bottom(), window().rect().bottom());
+    QVERIFY(settings.right() < inWindow(dockOf(column())).left());
+    QVERIFY(settings.top() > inWindow(window().centralWidget()).bottom());
+}
+
+void tst_Docks::startsWithTheValuesOfTheCanvas()
+{
+    const MainWindow fresh(nullptr);
+    const QList<QSpinBox *> boxes = fresh.findChild<ScreenSettings *>()->findChildren<QSpinBox *>();
+    QCOMPARE(boxes.at(0)->value(), 400);
+    QCOMPARE(boxes.at(1)->value(), 800);
+    auto *color = fresh.findChild<ScreenSettings *>()->findChild<ColorEdit *>();
+    QCOMPARE(color->getValue().toString(), QString("#000000"));
+    QVERIFY(!fresh.canvas()->isModified());
+}
+
+void tst_Docks::clickOnAShapeShowsItsNameAndPanel()
+{
+    openSmallBoard();
+    QVERIFY(isEmpty());
+    click({15, 15});
+    QVERIFY(nameEdit()->isVisible());
+    QCOMPARE(nameEdit()->text(), QString("Lower"));
+    QCOMPARE(edit("X")->getValue().toInt(), 10);
+    click({80, 50});
+    QCOMPARE(nameEdit()->text(), QString("Upper"));
+    QCOMPARE(edit("X")->getValue().toInt(), 30);
+    QVERIFY(!canvas().isModified());
+}
+
+void tst_Docks::clickOnTheBackgroundEmptiesThePanel()
+{
+    openSmallBoard();
+    click({15, 15});
+    QVERIFY(!isEmpty());
+    click({150, 90});
+    QVERIFY(isEmpty());
+}
+
+void tst_Docks::newItemShowsItsPanel()
+{
+    canvas().newItem("Shape");
+    QCOMPARE(nameEdit()->text(), canvas().items().first()->name());
+    QVERIFY(edit("X"));
+}
+
+void tst_Docks::severalSelectedItemsShowNoPanel()
+{
+    openSmallBoard();
+    click({15, 15});
+    click({80, 50}, Qt::ControlModifier);
+    QCOMPARE(canvas().selection().size(), 2);
+    QVERIFY(isEmpty());
+}
+
+void tst_Docks::deletingTheItemEmptiesThePanel()
+{
+    openSmallBoard();
+    click({15, 15});
+    QVERIFY(!isEmpty());
+    QTest::keyClick(window().windowHandle(), Qt::Key_Delete);
+    QTRY_COMPARE(canvas().items().size(), 1);
+    QVERIFY(isEmpty());
+}
+
+void tst_Docks::editMarksTheLayoutModified()
+{
+    openSmallBoard();
+    click({15, 15});
+    QTest::keyClick(edit("X")->findChild<QSpinBox *>(), Qt::Key_Up);
+    QCOMPARE(canvas().items().first()->x(), 11);
+    QVERIFY(canvas().isModified());
+}
+
+void tst_Docks::panelFitsTheColumn()
+{
+    openSmallBoard();
+    click({15, 15});
+    const auto *panel = column()->findChild<PropertyPanel *>();
+    QTRY_COMPARE(column()->widget()->width(), column()->viewport()->width());
+    QVERIFY(!column()->horizontalScrollBar()->isVisible());
+    QVERIFY(!panel->horizontalScrollBar()->isVisible());
+    const QRect view = inWindow(panel->viewport());
+    const QList<VariableEdit *> edits = panel->findChildren<VariableEdit *>();
+    QCOMPARE(edits.size(), 12);
+    for (const VariableEdit *edit : edits) {
+        QVERIFY(inWindow(edit).left() >= view.left());
+        QVERIFY(inWindow(edit).right() <= view.right());
+        QVERIFY(edit->width() >= edit->minimumSizeHint().width());
+    }
+}
+
+void tst_Docks::everyLoadReadsTheScreenAgain()
+{
+    QCOMPARE(shownSize(), QSize(800, 400));
+    openSmallBoard();
+    QCOMPARE(shownSize(), QSize(200, 100));
+    QCOMPARE(bar()->findChild<ColorEdit *>()->getValue().toString(), QString("#102030"));
+    QCOMPARE(canvas().size(), QSize(200, 100));
+    QVERIFY(!canvas().isModified());
+    triggerNew();
+    QCOMPARE(shownSize(), QSize(800, 400));
+    verifyIsTemplate();
+}
+
+void tst_Docks::loadWritesClampedLengthsBack()
+{
+    open(board({}, {{"Background Color", "#000000"}, {"Height", 12000}, {"Width", 4}}));
+    QCOMPARE(shownSize(), QSize(10, 10000));
+    QCOMPARE(canvas().size(), QSize(10, 10000));
+}
+
+void tst_Docks::failedLoadKeepsWhatIsShown()
+{
+    openSmallBoard();
+    click({15, 15});
+    DialogAnswers answers;
+    answers.press("OK");
+    window().openFile(path("missing.lay"));
+    QVERIFY(answers.areUsedUp());
+    QCOMPARE(shownSize(), QSize(200, 100));
+    QCOMPARE(nameEdit()->text(), QString("Lower"));
+    QVERIFY(edit("X"));
+}
+
+void tst_Docks::heightAndWidthAreEditedInTheBar()
+{
+    const QList<QSpinBox *> boxes = bar()->findChildren<QSpinBox *>();
+    QTest::keyClick(boxes.at(0), Qt::Key_Up);
+    QCOMPARE(canvas().size(), QSize(800, 401));
+    QTest::keyClick(boxes.at(1), Qt::Key_Down);
+    QCOMPARE(canvas().size(), QSize(799, 401));
+    QVERIFY(canvas().isModified());
+}
+
+void tst_Docks::loadingKeepsTheArrangement()
+{
+    const QPointer<SettingsEditor> settings = column();
+    const QPointer<ScreenSettings> screen = bar();
+    const QPointer<Screen> board = &canvas();
+    openSmallBoard();
+    QVERIFY(settings && screen && board);
+    QCOMPARE(column(), settings.data());
+    QCOMPARE(bar(), screen.data());
+    QCOMPARE(&canvas(), board.data());
+}
+
+BOARDWRIGHT_TEST_MAIN(tst_Docks)
+#include "tst_docks.moc"

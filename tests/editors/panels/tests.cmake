@@ -1,0 +1,2 @@
+boardwright_add_test(editors/panels/tst_screensettings LINK boardwright_panels)
+boardwright_add_test(editors/panels/tst_settingseditor LINK boardwright_panels)
