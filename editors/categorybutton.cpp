@@ -78,7 +78,10 @@ void CategoryButton::showState()
 {
     const QString image = m_item->isExpanded() ? QStringLiteral(":/assets/interface/widget_down.png")
                                                : QStringLiteral(":/assets/interface/widget_right.png");
-    m_icon->setStyleSheet(
+    const QString sheet =
         QStringLiteral("background:url(\"%1\"); background-position:center; background-repeat:no-repeat;")
-            .arg(image));
+            .arg(image);
+    // Heard of every category of the tree; dressing a label anew is dear, even in the same sheet.
+    if (sheet != m_icon->styleSheet())
+        m_icon->setStyleSheet(sheet);
 }

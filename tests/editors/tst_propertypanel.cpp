@@ -94,7 +94,8 @@ struct ShownPanel {
 
     IntEdit *editor(const QString &key) const
     {
-        for (auto *edit : panel->findChildren<IntEdit *>()) {
+        const auto edits = panel->findChildren<IntEdit *>();
+        for (IntEdit *edit : edits) {
             if (edit->getKey() == key)
                 return edit;
         }

@@ -63,7 +63,8 @@ struct OpenPanel {
 
     VariableEdit *editor(const QString &key) const
     {
-        for (auto *edit : host->findChildren<VariableEdit *>()) {
+        const auto edits = host->findChildren<VariableEdit *>();
+        for (VariableEdit *edit : edits) {
             if (edit->getKey() == key)
                 return edit;
         }
@@ -90,8 +91,11 @@ struct OpenPanel {
     QMap<QString, QVariant> valuesBefore;
 };
 
-const QStringList allKeys{"Shape",   "Align", "X",     "Y",      "W",          "H",
-                          "Opacity", "Fill",  "Color", "Border", "Line Width", "Border Color"};
+QStringList allKeys()
+{
+    return {"Shape",   "Align", "X",     "Y",      "W",          "H",
+            "Opacity", "Fill",  "Color", "Border", "Line Width", "Border Color"};
+}
 
 QStringList categoryNames(const PropertyPanel *panel)
 {
@@ -108,7 +112,8 @@ QSet<QString> keysIn(const PropertyPanel *panel, int category)
 {
     QSet<QString> keys;
     const QWidget *rows = panel->itemWidget(panel->topLevelItem(category)->child(0), 0);
-    for (auto *edit : rows->findChildren<VariableEdit *>())
+    const auto edits = rows->findChildren<VariableEdit *>();
+    for (VariableEdit *edit : edits)
         keys << edit->getKey();
     return keys;
 }
@@ -135,7 +140,7 @@ private slots:
     void switchReachesTheItem();
     void colorReachesTheItem();
     void cancelledColorIsBlack();
-    void readyFrameIsToldOfEdits();
+    void frameAnnouncesWhatAnEditMoves();
 
     void asksForLimitsAsTheyStand_data();
     void asksForLimitsAsTheyStand();
@@ -193,7 +198,7 @@ void tst_ShapePanel::makesEditorsInOrder()
     auto *shape = new WatchedShape(&frame);
     QWidget host;
     shape->buildSettingsPanel(&host);
-    QCOMPARE(shape->readings, allKeys);
+    QCOMPARE(shape->readings, allKeys());
 }
 
 void tst_ShapePanel::sortsEditorsIntoTwoCategories()
@@ -202,13 +207,14 @@ void tst_ShapePanel::sortsEditorsIntoTwoCategories()
     QCOMPARE(categoryNames(open.panel()), QStringList({"Area (px)", "Basic Properties"}));
     const QSet<QString> area{"X", "Y", "W", "H"};
     QCOMPARE(keysIn(open.panel(), 0), area);
-    QCOMPARE(keysIn(open.panel(), 1), QSet<QString>(allKeys.begin(), allKeys.end()) - area);
+    const QStringList all = allKeys();
+    QCOMPARE(keysIn(open.panel(), 1), QSet<QString>(all.begin(), all.end()) - area);
 }
 
 void tst_ShapePanel::offersTheKindsAndAlignments()
 {
     const OpenPanel open;
-    for (const QString key : {"Shape", "Align"}) {
+    for (const char *key : {"Shape", "Align"}) {
         QStringList offered;
         for (int i = 0; i < open.part<QComboBox>(key)->count(); ++i)
             offered << open.part<QComboBox>(key)->itemText(i);
@@ -280,7 +286,7 @@ void tst_ShapePanel::choiceReachesTheItem()
 
 void tst_ShapePanel::switchReachesTheItem()
 {
-    for (const QString key : {"Fill", "Border"}) {
+    for (const char *key : {"Fill", "Border"}) {
         const OpenPanel open;
         QTest::keyClick(open.part<QCheckBox>(key), Qt::Key_Space);
         QCOMPARE(open.item->getValue(key), QVariant(false));
@@ -290,7 +296,7 @@ void tst_ShapePanel::switchReachesTheItem()
 
 void tst_ShapePanel::colorReachesTheItem()
 {
-    for (const QString key : {"Color", "Border Color"}) {
+    for (const char *key : {"Color", "Border Color"}) {
         const OpenPanel open;
         DialogAnswers answers;
         typeColor(answers, "#12ab3c");
@@ -310,7 +316,7 @@ void tst_ShapePanel::cancelledColorIsBlack()
     QCOMPARE(open.item->getValue("Border Color"), QVariant("#000000"));
 }
 
-void tst_ShapePanel::readyFrameIsToldOfEdits()
+void tst_ShapePanel::frameAnnouncesWhatAnEditMoves()
 {
     OpenPanel open;
     QSignalSpy spy(open.item, &ScreenItem::valueChanged);
@@ -432,7 +438,8 @@ void tst_ShapePanel::twoPanelsOfOneItemAgree()
     QWidget second;
     open.item->buildSettingsPanel(&second);
     open.type("X", "77");
-    for (auto *edit : second.findChildren<IntEdit *>()) {
+    const auto edits = second.findChildren<IntEdit *>();
+    for (IntEdit *edit : edits) {
         if (edit->getKey() == "X")
             QCOMPARE(edit->getValue(), QVariant(77));
     }
@@ -442,7 +449,7 @@ void tst_ShapePanel::outlivesItsItem()
 {
     OpenPanel open;
     delete open.item;
-    for (const QString key : {"X", "W", "Opacity", "Line Width"})
+    for (const char *key : {"X", "W", "Opacity", "Line Width"})
         QTest::keyClick(open.part<QSpinBox>(key), Qt::Key_Up);
     QTest::keyClick(open.part<QComboBox>("Shape"), Qt::Key_Down);
     QTest::keyClick(open.part<QCheckBox>("Fill"), Qt::Key_Space);
@@ -478,7 +485,7 @@ void tst_ShapePanel::tabWalksFromTopToBottom()
     open.host->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(open.host.get()));
     QWidgetList stops{open.panel()->itemWidget(open.panel()->topLevelItem(0), 0)};
-    for (const QString key : {"X", "Y", "W", "H"})
+    for (const char *key : {"X", "Y", "W", "H"})
         stops << open.part<QSpinBox>(key);
     stops << open.panel()->itemWidget(open.panel()->topLevelItem(1), 0) << open.part<QComboBox>("Shape")
           << open.part<QComboBox>("Align") << open.part<QSpinBox>("Opacity") << open.part<QCheckBox>("Fill")
@@ -498,8 +505,8 @@ void tst_ShapePanel::tabWalksFromTopToBottom()
 void tst_ShapePanel::iconsAreNamedForScreenReaders()
 {
     const OpenPanel open;
-    for (const QString key : {"Color", "Border Color"})
-        QCOMPARE(open.part<QPushButton>(key)->accessibleName(), key);
+    for (const char *key : {"Color", "Border Color"})
+        QCOMPARE(open.part<QPushButton>(key)->accessibleName(), QString(key));
 }
 
 void tst_ShapePanel::isNotClippedInTheColumn()
@@ -512,15 +519,18 @@ void tst_ShapePanel::isNotClippedInTheColumn()
     QCoreApplication::processEvents();
     auto *panel = column.findChild<PropertyPanel *>();
     const QRegion all = panel->viewport()->rect();
-    for (auto *edit : panel->findChildren<VariableEdit *>()) {
+    const auto edits = panel->findChildren<VariableEdit *>();
+    for (VariableEdit *edit : edits) {
         const QRect place(edit->mapTo(panel->viewport(), QPoint()), edit->size());
         QVERIFY2(QRegion(place).subtracted(all).isEmpty(), qPrintable(edit->getKey()));
     }
-    for (auto *label : panel->findChildren<QLabel *>()) {
+    const auto labels = panel->findChildren<QLabel *>();
+    for (QLabel *label : labels) {
         if (label->isVisible())
             QVERIFY2(label->width() >= label->sizeHint().width(), qPrintable(label->text()));
     }
-    for (auto *box : panel->findChildren<QCheckBox *>())
+    const auto boxes = panel->findChildren<QCheckBox *>();
+    for (QCheckBox *box : boxes)
         QVERIFY2(box->width() >= box->sizeHint().width(), qPrintable(box->text()));
 }
 
