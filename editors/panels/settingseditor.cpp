@@ -54,25 +54,25 @@ void SettingsEditor::setActiveItem(ScreenItem *item)
     showName(item);
     if (!item)
         return;
-    followName();
-    buildPanel();
+    followName(*item);
+    buildPanel(*item);
     m_ending = connect(item, &QObject::destroyed, this, &SettingsEditor::itemDeleted);
 }
 
-void SettingsEditor::followName()
+void SettingsEditor::followName(ScreenItem &item)
 {
     // Whoever listened before, so that the former item keeps its name. Not to everything: style sheets have
     // to hear of the end of every widget.
     disconnect(m_nameEdit, &QLineEdit::textChanged, nullptr, nullptr);
-    m_nameEdit->setText(m_item->name());
-    connect(m_nameEdit, &QLineEdit::textChanged, m_item.data(), &ScreenItem::setMyName);
+    m_nameEdit->setText(item.name());
+    connect(m_nameEdit, &QLineEdit::textChanged, &item, &ScreenItem::setMyName);
 }
 
-void SettingsEditor::buildPanel()
+void SettingsEditor::buildPanel(ScreenItem &item)
 {
     m_container = new QWidget(widget());
     m_layout->addWidget(m_container, 1);
-    m_item->buildSettingsPanel(m_container);
+    item.buildSettingsPanel(m_container);
     m_container->show();
 }
 
@@ -85,7 +85,7 @@ void SettingsEditor::itemDeleted(QObject *sndr)
 
 void SettingsEditor::dropContainer()
 {
-    // By its handle: an item that is about to go is no longer held, but has yet to tell.
+    // An item that is about to go may have yet to tell; it shall not empty the next one's panel.
     disconnect(m_ending);
     if (!m_container)
         return;

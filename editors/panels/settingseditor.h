@@ -26,12 +26,13 @@ public slots:
 private:
     void addNameRow();
     void showName(bool isShown);
-    void followName();
-    void buildPanel();
+    void followName(ScreenItem &item);
+    void buildPanel(ScreenItem &item);
     void dropContainer();
     void forgetItemOf(const QWidget &container);
 
-    QPointer<ScreenItem> m_item; // never a dead item: a new one may get its address
+    // Never a dead item, since a new one may get its address; and no frame while it is going.
+    QPointer<QObject> m_item;
     QPointer<QWidget> m_container;
     QMetaObject::Connection m_ending; // the end of the item, as it reaches itemDeleted()
     QVBoxLayout *m_layout;

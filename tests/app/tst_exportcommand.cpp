@@ -97,24 +97,22 @@ void tst_ExportCommand::exportDoesNothingWhenCancelled()
 void tst_ExportCommand::exportFailsSilently_data()
 {
     QTest::addColumn<QString>("name");
-    QTest::addColumn<QByteArray>("layout");
+    QTest::addColumn<int>("length");
 
-    QTest::newRow("no suffix") << "board" << QByteArray();
-    QTest::newRow("no format of this suffix") << "board.lay" << QByteArray();
-    QTest::newRow("canvas without area") << "board.png" << QByteArray("{}");
-    QTest::newRow("canvas beyond any picture")
-        << "board.png" << QByteArray("{\"parameters\": {\"Width\": 1e9, \"Height\": 1e9}}");
+    QTest::newRow("no suffix") << "board" << 100;
+    QTest::newRow("no format of this suffix") << "board.lay" << 100;
+    QTest::newRow("canvas without area") << "board.png" << 0;
+    QTest::newRow("canvas beyond any picture") << "board.png" << 1000000000;
 }
 
 void tst_ExportCommand::exportFailsSilently()
 {
     QFETCH(QString, name);
-    QFETCH(QByteArray, layout);
+    QFETCH(int, length);
 
-    if (!layout.isEmpty()) {
-        writeFile(path("input.lay"), layout);
-        window().openFile(path("input.lay"));
-    }
+    // A file would not do: the bar of the screen keeps what is loaded within its limits.
+    canvas().setWidgth(length);
+    canvas().setHeight(length);
     DialogAnswers answers;
     answers.choose(path(name));
     triggerExport();

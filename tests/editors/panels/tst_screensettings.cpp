@@ -174,7 +174,7 @@ void tst_ScreenSettings::showsTheValuesOfTheCanvas()
     ScreenSettings settings;
     Screen screen;
     screen.setFixedSize(321, 123);
-    screen.setBackgrounColor("#a0b0c0");
+    screen.setBackgrounColor(QColor(0xa0b0c0));
     settings.setScreen(&screen);
     const QList<QSpinBox *> boxes = settings.findChildren<QSpinBox *>();
     QCOMPARE(boxes.at(0)->value(), 123);
@@ -281,9 +281,9 @@ void tst_ScreenSettings::chosenColourIsPaintedAtOnce()
     EventCounter paints(&bar.screen, QEvent::Paint);
     QTest::mouseClick(bar.color()->findChild<QPushButton *>(), Qt::LeftButton);
     QVERIFY(answers.areUsedUp());
-    QCOMPARE(bar.screen.backgroundColor(), QColor("#123456"));
+    QCOMPARE(bar.screen.backgroundColor(), QColor(0x123456));
     QTRY_VERIFY(paints.count > 0);
-    QCOMPARE(bar.window.grab().toImage().pixelColor(3, 3), QColor("#123456"));
+    QCOMPARE(bar.window.grab().toImage().pixelColor(3, 3), QColor(0x123456));
 }
 
 void tst_ScreenSettings::cancelledColourIsBlack()

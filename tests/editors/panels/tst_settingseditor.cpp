@@ -443,7 +443,7 @@ void tst_SettingsEditor::formerItemThatIsGoingLeavesThePanelAlone()
     ScreenItem *next = desk.add("Two", {200, 20, 100, 50});
     const ScreenItem *former = desk.addActive();
     connect(former->content(), &QObject::destroyed, &desk.editor,
-            [&desk, next] { desk.editor.setActiveItem(next); });
+            [editor = &desk.editor, next] { editor->setActiveItem(next); });
     delete former;
     QCOMPARE(desk.shownName(), QString("Two"));
     QVERIFY(desk.panel());
@@ -613,9 +613,9 @@ void tst_SettingsEditor::survivesAPanelRebuiltFromItsOwnSignal()
     const QPointer<PropertyPanel> before = desk.panel();
     VariableEdit *edit = desk.edit(key);
     const QVariant start = edit->getValue();
-    connect(edit, &VariableEdit::valueEdited, &desk.editor, [&] {
-        desk.editor.setActiveItem(nullptr);
-        desk.editor.setActiveItem(item);
+    connect(edit, &VariableEdit::valueEdited, &desk.editor, [editor = &desk.editor, item] {
+        editor->setActiveItem(nullptr);
+        editor->setActiveItem(item);
     });
     edit->setFocus();
     const bool isSwitch = edit->findChild<QCheckBox *>();
