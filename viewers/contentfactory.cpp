@@ -13,18 +13,19 @@ ContentViewer *make(QWidget *frame)
     return new Content(frame);
 }
 
-// The roads differ by kind: each column says whether a click, a drop and a file (or a paste) create the kind.
+// The roads differ by kind: the icon says that a click creates the kind, the last columns whether a drop and
+// a file (or a paste) do. The item bar shows the kinds in this order.
 struct Kind {
     const char *type;
     const char *namePrefix;
+    const char *icon; // null for a kind that the item bar does not offer
     ContentViewer *(*make)(QWidget *frame);
-    bool byClick;
     bool byDrop;
     bool fromFile;
 };
 
 constexpr Kind kinds[] = {
-    {"Shape", "Shape", make<Shape>, true, true, true},
+    {"Shape", "Shape", ":/assets/interface/shapes.png", make<Shape>, true, true},
 };
 
 const Kind *find(const QString &type)
@@ -41,10 +42,20 @@ ContentViewer *ContentFactory::create(const QString &type, QWidget *frame)
     return kind ? kind->make(frame) : nullptr;
 }
 
+QVector<QPair<QString, QString>> ContentFactory::clickableTypes()
+{
+    QVector<QPair<QString, QString>> types;
+    for (const Kind &kind : kinds) {
+        if (kind.icon)
+            types.append({QString::fromLatin1(kind.type), QString::fromLatin1(kind.icon)});
+    }
+    return types;
+}
+
 bool ContentFactory::isClickable(const QString &type)
 {
     const Kind *kind = find(type);
-    return kind && kind->byClick;
+    return kind && kind->icon;
 }
 
 bool ContentFactory::isDroppable(const QString &type)

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QPair>
 #include <QString>
+#include <QVector>
 
 class ContentViewer;
 class QWidget;
@@ -10,6 +12,9 @@ namespace ContentFactory
 {
 /// Makes a content of the kind inside the frame, which takes and owns it; null for an unknown kind.
 ContentViewer *create(const QString &type, QWidget *frame);
+
+/// The kinds that the item bar offers, from left to right: type name and path of the icon.
+QVector<QPair<QString, QString>> clickableTypes();
 
 /// True for kinds that a click in the item bar creates.
 bool isClickable(const QString &type);

@@ -3,6 +3,9 @@
 #include "tests/support/strictmain.h"
 #include "viewers/shape.h"
 
+#include <algorithm>
+#include <iterator>
+
 class tst_ContentFactory : public QObject
 {
     Q_OBJECT
@@ -10,6 +13,7 @@ class tst_ContentFactory : public QObject
 private slots:
     void makesAShapeInsideTheFrame();
     void opensEveryRoadToShapes();
+    void offersKindsInTheOrderOfTheBar();
     void knowsNoOtherSpelling_data();
     void knowsNoOtherSpelling();
     void readsNoVideoFromFiles();
@@ -30,6 +34,19 @@ void tst_ContentFactory::opensEveryRoadToShapes()
     QVERIFY(ContentFactory::isDroppable("Shape"));
     QVERIFY(ContentFactory::isReadable("Shape"));
     QCOMPARE(ContentFactory::namePrefix("Shape"), QString("Shape"));
+}
+
+void tst_ContentFactory::offersKindsInTheOrderOfTheBar()
+{
+    const QVector<QPair<QString, QString>> bar = {{"Text", ":/assets/interface/text.png"},
+                                                  {"Shape", ":/assets/interface/shapes.png"},
+                                                  {"Image Viewer", ":/assets/interface/image.png"},
+                                                  {"Animation Viewer", ":/assets/interface/gif.png"}};
+    QVector<QPair<QString, QString>> expected;
+    std::copy_if(bar.begin(), bar.end(), std::back_inserter(expected),
+                 [](const QPair<QString, QString> &kind) { return ContentFactory::isClickable(kind.first); });
+    QVERIFY(expected.contains(bar.at(1)));
+    QCOMPARE(ContentFactory::clickableTypes(), expected);
 }
 
 void tst_ContentFactory::knowsNoOtherSpelling_data()
