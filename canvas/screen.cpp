@@ -28,11 +28,6 @@ constexpr QSize newItemSize(100, 50);
 
 /// Beyond one moved frame in this many, one whole paint is cheaper than many small ones.
 constexpr int framesPerMove = 15;
-
-QString dragFormat()
-{
-    return QStringLiteral("screen/screenItem");
-}
 } // namespace
 
 Screen::Screen(QWidget *parent) : QWidget(parent)
@@ -204,6 +199,16 @@ void Screen::loadLayout(const QJsonObject &document)
 bool Screen::hasTooManyItems(const QJsonObject &document)
 {
     return document.value(Keys::items()).toArray().size() > maximumItems;
+}
+
+QVector<QPair<QString, QString>> Screen::itemTypes()
+{
+    return ContentFactory::clickableTypes();
+}
+
+QString Screen::dragFormat()
+{
+    return QStringLiteral("screen/screenItem");
 }
 
 ScreenItem *Screen::createItem(const QJsonObject &object)

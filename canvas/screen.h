@@ -5,6 +5,8 @@
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QList>
+#include <QPair>
+#include <QVector>
 #include <QWidget>
 
 class ScreenItem;
@@ -58,6 +60,9 @@ public:
     /// Copies the selected frames to the top; the copies become the selection.
     void duplicateSelection();
 
+    /// Schedules the selected frames for deletion in the order of their selection and deselects them.
+    void deleteSelection();
+
     /// Schedules the selected frames and the given one for deletion, the given one last.
     void deleteSelectionAnd(ScreenItem *item);
 
@@ -70,6 +75,13 @@ public:
 
     /// True when the document holds more items than the canvas takes.
     static bool hasTooManyItems(const QJsonObject &document);
+
+    /// The kinds of item that the user can add, in the order of the item bar: type name, for newItem(), and
+    /// path of the icon.
+    static QVector<QPair<QString, QString>> itemTypes();
+
+    /// The format in which a drag carries a type name to the canvas, in UTF-8.
+    static QString dragFormat();
 
     /// Makes an item from its item object, on top of the others. Null, and nothing made, for kinds that do
     /// not come from files and on a full canvas.
@@ -112,7 +124,6 @@ private:
     void bindShortcuts();
     void changeSize(QSize size);
     void deleteAllItems();
-    void deleteSelection();
     bool isFull() const;
     ScreenItem *newFrame(QPoint position);
     QList<ScreenItem *> createItems(const QJsonArray &objects);
