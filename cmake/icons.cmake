@@ -1,4 +1,5 @@
-# The one table of drawn images: source in assets/icons/, image below assets/, width and height in pixels.
+# The one table of drawn images: source in assets/icons/, image below assets/, width and height in pixels, and a
+# style sheet beside the sources where one is needed.
 # `cmake --build <folder> --target icons` draws the committed images anew from their sources; an ordinary
 # build never does, so that it needs no SVG tool.
 set(icon_table
@@ -9,22 +10,47 @@ set(icon_table
     "collapsed.svg  interface/widget_right.png  15  15"
 )
 
+# Check boxes that are drawn with images: source, and image without the state that follows it. One source serves all
+# states; the style sheet of each state, <state>.css beside the sources, colours it.
+set(check_box_table
+    "textautosize.svg   style/textSettingsStyle/Auto"
+    "textbold.svg       style/textSettingsStyle/Bold"
+    "textitalic.svg     style/textSettingsStyle/Italic"
+    "textunderline.svg  style/textSettingsStyle/Underline"
+    "textcenter.svg     style/textSettingsStyle/align/h/HAlignC"
+    "textleft.svg       style/textSettingsStyle/align/h/HAlignL"
+    "textright.svg      style/textSettingsStyle/align/h/HAlignR"
+    "textmiddle.svg     style/textSettingsStyle/align/v/VAlignC"
+    "texttop.svg        style/textSettingsStyle/align/v/VAlignT"
+    "textbottom.svg     style/textSettingsStyle/align/v/VAlignB"
+)
+foreach(row IN LISTS check_box_table)
+    foreach(state IN ITEMS checked unchecked unchecked_hover)
+        list(APPEND icon_table "${row}_${state}.png 30 30 ${state}.css")
+    endforeach()
+endforeach()
+
+
 # Drawn into the build folder first: an image that stays the same keeps its time stamp.
 function(boardwright_icon_commands result)
+    set(sources "${CMAKE_CURRENT_SOURCE_DIR}/icons")
     set(commands "")
     foreach(row IN LISTS icon_table)
         separate_arguments(row UNIX_COMMAND "${row}")
-        list(GET row 0 source)
-        list(GET row 1 image)
-        list(GET row 2 width)
-        list(GET row 3 height)
+        list(POP_FRONT row source image width height sheet)
+        set(sheet_option "")
+        if(sheet)
+            set(sheet_option "--stylesheet=${sources}/${sheet}")
+        endif()
         set(drawn "${CMAKE_CURRENT_BINARY_DIR}/icons/${image}")
-        get_filename_component(folder "${drawn}" DIRECTORY)
+        set(committed "${CMAKE_CURRENT_SOURCE_DIR}/${image}")
+        get_filename_component(drawn_folder "${drawn}" DIRECTORY)
+        get_filename_component(committed_folder "${committed}" DIRECTORY)
         list(APPEND commands
-            COMMAND "${CMAKE_COMMAND}" -E make_directory "${folder}"
-            COMMAND "${RSVG_CONVERT_EXECUTABLE}" --format=png --width=${width} --height=${height}
-                --output "${drawn}" "${CMAKE_CURRENT_SOURCE_DIR}/icons/${source}"
-            COMMAND "${CMAKE_COMMAND}" -E copy_if_different "${drawn}" "${CMAKE_CURRENT_SOURCE_DIR}/${image}")
+            COMMAND "${CMAKE_COMMAND}" -E make_directory "${drawn_folder}" "${committed_folder}"
+            COMMAND "${RSVG_CONVERT_EXECUTABLE}" --format=png --width=${width} --height=${height} ${sheet_option}
+                --output "${drawn}" "${sources}/${source}"
+            COMMAND "${CMAKE_COMMAND}" -E copy_if_different "${drawn}" "${committed}")
     endforeach()
     set(${result} "${commands}" PARENT_SCOPE)
 endfunction()

@@ -2,8 +2,11 @@
 
 #include "tests/support/strictmain.h"
 
+#include <QDirIterator>
 #include <QFile>
 #include <QImage>
+#include <QMap>
+#include <QPainter>
 #include <QRegularExpression>
 #include <QtTest>
 
@@ -19,8 +22,16 @@ private slots:
 
     void mayBeInitialisedAgain();
     void emptyLayoutIsKeptToTheByte();
-    void everyImageOfTheTableIsDrawnAndCarried_data();
-    void everyImageOfTheTableIsDrawnAndCarried();
+    void everyImageOfTheTableHasItsSource_data();
+    void everyImageOfTheTableHasItsSource();
+    void carriesTheseImagesAndNoOthers();
+    void imagesHaveTheirSizeAndAreDrawnOnNothing_data();
+    void imagesHaveTheirSizeAndAreDrawnOnNothing();
+    void noTwoImagesLookAlike();
+    void checkBoxesTellTheirStatesApart_data();
+    void checkBoxesTellTheirStatesApart();
+    void opposedImagesMirrorEachOther_data();
+    void opposedImagesMirrorEachOther();
     void arrowsAreSymmetric_data();
     void arrowsAreSymmetric();
     void arrowsAreReadableOnEveryGround_data();
@@ -45,6 +56,46 @@ QImage asset(const QString &path)
     return QImage(":/assets/" + path).convertToFormat(QImage::Format_ARGB32);
 }
 
+/// The check boxes that are drawn with images, without the state that ends each name.
+QStringList checkBoxes()
+{
+    return {"style/textSettingsStyle/Auto",
+            "style/textSettingsStyle/Bold",
+            "style/textSettingsStyle/Italic",
+            "style/textSettingsStyle/Underline",
+            "style/textSettingsStyle/align/h/HAlignC",
+            "style/textSettingsStyle/align/h/HAlignL",
+            "style/textSettingsStyle/align/h/HAlignR",
+            "style/textSettingsStyle/align/v/VAlignC",
+            "style/textSettingsStyle/align/v/VAlignT",
+            "style/textSettingsStyle/align/v/VAlignB"};
+}
+
+/// Every image of the program, with its size in pixels. The spellings are interface.
+QMap<QString, QSize> images()
+{
+    QMap<QString, QSize> all{{"style/up.png", QSize(8, 4)},
+                             {"style/down.png", QSize(8, 4)},
+                             {"style/combo_box.png", QSize(9, 5)},
+                             {"interface/widget_down.png", QSize(15, 15)},
+                             {"interface/widget_right.png", QSize(15, 15)}};
+    const QStringList boxes = checkBoxes();
+    for (const QString &checkBox : boxes) {
+        for (const char *state : {"checked", "unchecked", "unchecked_hover"})
+            all[checkBox + "_" + state + ".png"] = QSize(30, 30);
+    }
+    return all;
+}
+
+/// How the image looks on the ground of the panels.
+QImage onPanel(const QString &path)
+{
+    QImage panel(asset(path).size(), QImage::Format_RGB32);
+    panel.fill(QColor(0x45, 0x45, 0x45));
+    QPainter(&panel).drawImage(0, 0, asset(path));
+    return panel;
+}
+
 /// Contrast of two opaque colours, 1 (same) to 21 (black on white).
 double contrast(const QColor &one, const QColor &other)
 {
@@ -59,6 +110,17 @@ double contrast(const QColor &one, const QColor &other)
     return (bounds.second + 0.05) / (bounds.first + 0.05);
 }
 
+/// The greatest contrast of any pixel to the colour.
+double strongestContrast(const QImage &image, const QColor &color)
+{
+    double strongest = 1;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            strongest = std::max(strongest, contrast(image.pixelColor(x, y), color));
+    }
+    return strongest;
+}
+
 /// The part of an image that is drawn upon.
 QRect drawnArea(const QImage &image)
 {
@@ -70,6 +132,19 @@ QRect drawnArea(const QImage &image)
         }
     }
     return area;
+}
+
+/// The least and the greatest coverage (0 to 255) of any pixel.
+std::pair<int, int> coverage(const QImage &image)
+{
+    std::pair<int, int> bounds{255, 0};
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const int alpha = qAlpha(image.pixel(x, y));
+            bounds = {std::min(bounds.first, alpha), std::max(bounds.second, alpha)};
+        }
+    }
+    return bounds;
 }
 
 /// The greatest difference in coverage (0 to 255) of any pixel of two images of one size.
@@ -109,35 +184,120 @@ void tst_Assets::emptyLayoutIsKeptToTheByte()
                         "}\n"));
 }
 
-void tst_Assets::everyImageOfTheTableIsDrawnAndCarried_data()
+void tst_Assets::everyImageOfTheTableHasItsSource_data()
 {
     QTest::addColumn<QString>("source");
-    QTest::addColumn<QString>("image");
-    QTest::addColumn<QSize>("size");
 
     const QString table = QString::fromUtf8(contents(sourcePath("cmake/icons.cmake")));
-    static const QRegularExpression row("^ +\"(\\S+\\.svg) +(\\S+\\.png) +(\\d+) +(\\d+)\"$",
-                                        QRegularExpression::MultilineOption);
+    static const QRegularExpression row("^ +\"(\\S+\\.svg) ", QRegularExpression::MultilineOption);
     auto rows = row.globalMatch(table);
     QVERIFY(rows.hasNext());
     while (rows.hasNext()) {
-        const QRegularExpressionMatch match = rows.next();
-        QTest::newRow(qPrintable(match.captured(2)))
-            << match.captured(1) << match.captured(2)
-            << QSize(match.captured(3).toInt(), match.captured(4).toInt());
+        const QString source = rows.next().captured(1);
+        QTest::newRow(qPrintable(source)) << source;
     }
 }
 
-void tst_Assets::everyImageOfTheTableIsDrawnAndCarried()
+void tst_Assets::everyImageOfTheTableHasItsSource()
 {
     QFETCH(QString, source);
+    QVERIFY(QFile::exists(sourcePath("assets/icons/" + source)));
+}
+
+void tst_Assets::carriesTheseImagesAndNoOthers()
+{
+    QStringList carried;
+    QDirIterator files(":/assets", {"*.png"}, QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext())
+        carried << files.next().mid(int(qstrlen(":/assets/")));
+    carried.sort();
+    QCOMPARE(carried, images().keys());
+}
+
+void tst_Assets::imagesHaveTheirSizeAndAreDrawnOnNothing_data()
+{
+    QTest::addColumn<QString>("image");
+    QTest::addColumn<QSize>("size");
+
+    const QMap<QString, QSize> all = images();
+    for (auto image = all.begin(); image != all.end(); ++image)
+        QTest::newRow(qPrintable(image.key())) << image.key() << image.value();
+}
+
+void tst_Assets::imagesHaveTheirSizeAndAreDrawnOnNothing()
+{
     QFETCH(QString, image);
     QFETCH(QSize, size);
 
-    QVERIFY(QFile::exists(sourcePath("assets/icons/" + source)));
     QCOMPARE(asset(image).size(), size);
-    QVERIFY(!drawnArea(asset(image)).isEmpty());
+    QCOMPARE(coverage(asset(image)), std::make_pair(0, 255));
     QCOMPARE(contents(":/assets/" + image), contents(sourcePath("assets/" + image)));
+}
+
+void tst_Assets::noTwoImagesLookAlike()
+{
+    QMap<QByteArray, QString> seen;
+    const QStringList all = images().keys();
+    for (const QString &image : all) {
+        const QByteArray bytes = contents(":/assets/" + image);
+        QVERIFY2(!seen.contains(bytes), qPrintable(image + " looks like " + seen.value(bytes)));
+        seen[bytes] = image;
+    }
+}
+
+void tst_Assets::checkBoxesTellTheirStatesApart_data()
+{
+    QTest::addColumn<QString>("checkBox");
+
+    const QStringList all = checkBoxes();
+    for (const QString &checkBox : all)
+        QTest::newRow(qPrintable(checkBox)) << checkBox;
+}
+
+void tst_Assets::checkBoxesTellTheirStatesApart()
+{
+    QFETCH(QString, checkBox);
+    const QImage checked = onPanel(checkBox + "_checked.png");
+    const QImage unchecked = onPanel(checkBox + "_unchecked.png");
+    const QImage hover = onPanel(checkBox + "_unchecked_hover.png");
+    const QColor panel(0x45, 0x45, 0x45);
+
+    const QPoint plate(3, 15);
+    QCOMPARE(unchecked.pixelColor(plate), panel);
+    QCOMPARE(hover.pixelColor(plate), QColor(0x6f, 0x6f, 0x6f));
+    QVERIFY(checked.pixelColor(plate).hsvSaturationF() > 0.5);
+
+    const QPoint edge(1, 15);
+    QVERIFY(contrast(checked.pixelColor(edge), panel) >= 4.5);
+    QVERIFY(contrast(unchecked.pixelColor(edge), panel) < 3);
+
+    for (const QImage &state : {checked, unchecked, hover}) {
+        const QImage glyph = state.copy(state.rect().adjusted(4, 4, -4, -4));
+        QVERIFY(strongestContrast(glyph, state.pixelColor(plate)) >= 4.5);
+    }
+}
+
+void tst_Assets::opposedImagesMirrorEachOther_data()
+{
+    QTest::addColumn<QString>("image");
+    QTest::addColumn<QString>("other");
+    QTest::addColumn<bool>("sideways");
+
+    const QString style = "style/textSettingsStyle/align/%1_unchecked.png";
+    QTest::newRow("text left and right") << style.arg("h/HAlignL") << style.arg("h/HAlignR") << true;
+    QTest::newRow("text centre") << style.arg("h/HAlignC") << style.arg("h/HAlignC") << true;
+    QTest::newRow("text top and bottom") << style.arg("v/VAlignT") << style.arg("v/VAlignB") << false;
+    QTest::newRow("text middle") << style.arg("v/VAlignC") << style.arg("v/VAlignC") << false;
+}
+
+void tst_Assets::opposedImagesMirrorEachOther()
+{
+    QFETCH(QString, image);
+    QFETCH(QString, other);
+    QFETCH(bool, sideways);
+
+    const QImage mirrored = asset(image).mirrored(sideways, !sideways);
+    QVERIFY(coverageDifference(mirrored, asset(other)) <= 10);
 }
 
 void tst_Assets::arrowsAreSymmetric_data()
