@@ -3,11 +3,30 @@
 # `cmake --build <folder> --target icons` draws the committed images anew from their sources; an ordinary
 # build never does, so that it needs no SVG tool.
 set(icon_table
-    "spinup.svg     style/up.png                8   4"
-    "spindown.svg   style/down.png              8   4"
-    "dropdown.svg   style/combo_box.png         9   5"
-    "expanded.svg   interface/widget_down.png   15  15"
-    "collapsed.svg  interface/widget_right.png  15  15"
+    "spinup.svg         style/up.png                                              8   4"
+    "spindown.svg       style/down.png                                            8   4"
+    "dropdown.svg       style/combo_box.png                                       9   5"
+    "expanded.svg       interface/widget_down.png                                 15  15"
+    "collapsed.svg      interface/widget_right.png                                15  15"
+    "itemtext.svg       interface/text.png                                        45  45"
+    "itemshape.svg      interface/shapes.png                                      45  45"
+    "itemimage.svg      interface/image.png                                       45  45"
+    "itemanimation.svg  interface/gif.png                                         45  45"
+    "delete.svg         interface/layerToolBarSettings/delete.png                 30  30"
+    "separator.svg      interface/layerToolBarSettings/___.png                    30  30"
+    "layerup.svg        interface/layerToolBarSettings/moveUp.png                 30  30"
+    "layerdown.svg      interface/layerToolBarSettings/moveDown.png               30  30"
+    "layertop.svg       interface/layerToolBarSettings/moveToTop.png              30  30"
+    "layerbottom.svg    interface/layerToolBarSettings/movToBottom.png            30  30"
+    "fitboth.svg        interface/layerToolBarSettings/fullScreen.png             30  30"
+    "fitwidth.svg       interface/layerToolBarSettings/horisontalFull.png         30  30"
+    "fitheight.svg      interface/layerToolBarSettings/verticallFull.png          30  30"
+    "aligntop.svg       interface/layerToolBarSettings/alignTop.png               30  30"
+    "alignmiddle.svg    interface/layerToolBarSettings/alignVerticalCenter.png    30  30"
+    "alignbottom.svg    interface/layerToolBarSettings/alignBottom.png            30  30"
+    "alignleft.svg      interface/layerToolBarSettings/alignLeft.png              30  30"
+    "aligncenter.svg    interface/layerToolBarSettings/alignHorisontalCenter.png  30  30"
+    "alignright.svg     interface/layerToolBarSettings/alignRight.png             30  30"
 )
 
 # Check boxes that are drawn with images: source, and image without the state that follows it. One source serves all

@@ -30,6 +30,10 @@ private slots:
     void noTwoImagesLookAlike();
     void checkBoxesTellTheirStatesApart_data();
     void checkBoxesTellTheirStatesApart();
+    void buttonImagesAreReadableOnEveryGround_data();
+    void buttonImagesAreReadableOnEveryGround();
+    void straightImagesLieOnWholePixels_data();
+    void straightImagesLieOnWholePixels();
     void opposedImagesMirrorEachOther_data();
     void opposedImagesMirrorEachOther();
     void arrowsAreSymmetric_data();
@@ -71,6 +75,31 @@ QStringList checkBoxes()
             "style/textSettingsStyle/align/v/VAlignB"};
 }
 
+/// The layer tool bar's images, in the order of the bar.
+QStringList layerCommands()
+{
+    return {"delete",
+            "___",
+            "moveUp",
+            "moveDown",
+            "moveToTop",
+            "movToBottom",
+            "fullScreen",
+            "horisontalFull",
+            "verticallFull",
+            "alignTop",
+            "alignVerticalCenter",
+            "alignBottom",
+            "alignLeft",
+            "alignHorisontalCenter",
+            "alignRight"};
+}
+
+QString layerImage(const QString &command)
+{
+    return "interface/layerToolBarSettings/" + command + ".png";
+}
+
 /// Every image of the program, with its size in pixels. The spellings are interface.
 QMap<QString, QSize> images()
 {
@@ -79,6 +108,11 @@ QMap<QString, QSize> images()
                              {"style/combo_box.png", QSize(9, 5)},
                              {"interface/widget_down.png", QSize(15, 15)},
                              {"interface/widget_right.png", QSize(15, 15)}};
+    for (const char *item : {"text", "shapes", "image", "gif"})
+        all[QStringLiteral("interface/%1.png").arg(item)] = QSize(45, 45);
+    const QStringList commands = layerCommands();
+    for (const QString &command : commands)
+        all[layerImage(command)] = QSize(30, 30);
     const QStringList boxes = checkBoxes();
     for (const QString &checkBox : boxes) {
         for (const char *state : {"checked", "unchecked", "unchecked_hover"})
@@ -87,13 +121,15 @@ QMap<QString, QSize> images()
     return all;
 }
 
-/// How the image looks on the ground of the panels.
-QImage onPanel(const QString &path)
+const QColor panelGround(0x45, 0x45, 0x45);
+const QColor hoverGround(0x6f, 0x6f, 0x6f);
+
+QImage onGround(const QString &path, const QColor &ground = panelGround)
 {
-    QImage panel(asset(path).size(), QImage::Format_RGB32);
-    panel.fill(QColor(0x45, 0x45, 0x45));
-    QPainter(&panel).drawImage(0, 0, asset(path));
-    return panel;
+    QImage picture(asset(path).size(), QImage::Format_RGB32);
+    picture.fill(ground);
+    QPainter(&picture).drawImage(0, 0, asset(path));
+    return picture;
 }
 
 /// Contrast of two opaque colours, 1 (same) to 21 (black on white).
@@ -257,23 +293,66 @@ void tst_Assets::checkBoxesTellTheirStatesApart_data()
 void tst_Assets::checkBoxesTellTheirStatesApart()
 {
     QFETCH(QString, checkBox);
-    const QImage checked = onPanel(checkBox + "_checked.png");
-    const QImage unchecked = onPanel(checkBox + "_unchecked.png");
-    const QImage hover = onPanel(checkBox + "_unchecked_hover.png");
-    const QColor panel(0x45, 0x45, 0x45);
+    const QImage checked = onGround(checkBox + "_checked.png");
+    const QImage unchecked = onGround(checkBox + "_unchecked.png");
+    const QImage hover = onGround(checkBox + "_unchecked_hover.png");
 
     const QPoint plate(3, 15);
-    QCOMPARE(unchecked.pixelColor(plate), panel);
-    QCOMPARE(hover.pixelColor(plate), QColor(0x6f, 0x6f, 0x6f));
+    QCOMPARE(unchecked.pixelColor(plate), panelGround);
+    QCOMPARE(hover.pixelColor(plate), hoverGround);
     QVERIFY(checked.pixelColor(plate).hsvSaturationF() > 0.5);
 
     const QPoint edge(1, 15);
-    QVERIFY(contrast(checked.pixelColor(edge), panel) >= 4.5);
-    QVERIFY(contrast(unchecked.pixelColor(edge), panel) < 3);
+    QVERIFY(contrast(checked.pixelColor(edge), panelGround) >= 4.5);
+    QVERIFY(contrast(unchecked.pixelColor(edge), panelGround) < 3);
 
     for (const QImage &state : {checked, unchecked, hover}) {
         const QImage glyph = state.copy(state.rect().adjusted(4, 4, -4, -4));
         QVERIFY(strongestContrast(glyph, state.pixelColor(plate)) >= 4.5);
+    }
+}
+
+void tst_Assets::buttonImagesAreReadableOnEveryGround_data()
+{
+    QTest::addColumn<QString>("image");
+    QTest::addColumn<double>("onPanel");
+    QTest::addColumn<double>("onHover");
+
+    const QStringList all = images().keys().filter("interface/");
+    for (const QString &image : all) {
+        const bool separator = image == layerImage("___"); // need not be read, only seen
+        QTest::newRow(qPrintable(image)) << image << (separator ? 2.0 : 4.5) << (separator ? 2.0 : 3.0);
+    }
+}
+
+void tst_Assets::buttonImagesAreReadableOnEveryGround()
+{
+    QFETCH(QString, image);
+    QFETCH(double, onPanel);
+    QFETCH(double, onHover);
+
+    QVERIFY(strongestContrast(onGround(image), panelGround) >= onPanel);
+    QVERIFY(strongestContrast(onGround(image, hoverGround), hoverGround) >= onHover);
+}
+
+void tst_Assets::straightImagesLieOnWholePixels_data()
+{
+    QTest::addColumn<QString>("image");
+
+    QTest::newRow("text item") << "interface/text.png";
+    for (const char *command : {"delete", "___", "alignTop", "alignVerticalCenter", "alignBottom",
+                                "alignLeft", "alignHorisontalCenter", "alignRight"})
+        QTest::newRow(command) << layerImage(command);
+}
+
+void tst_Assets::straightImagesLieOnWholePixels()
+{
+    QFETCH(QString, image);
+    const QImage drawn = asset(image);
+
+    for (int y = 0; y < drawn.height(); ++y) {
+        for (int x = 0; x < drawn.width(); ++x)
+            QVERIFY(drawn.pixelColor(x, y).alpha() % 255 == 0);
     }
 }
 
@@ -288,6 +367,23 @@ void tst_Assets::opposedImagesMirrorEachOther_data()
     QTest::newRow("text centre") << style.arg("h/HAlignC") << style.arg("h/HAlignC") << true;
     QTest::newRow("text top and bottom") << style.arg("v/VAlignT") << style.arg("v/VAlignB") << false;
     QTest::newRow("text middle") << style.arg("v/VAlignC") << style.arg("v/VAlignC") << false;
+
+    const auto commands = [](const QString &command, const QString &other, bool sideways) {
+        QTest::newRow(qPrintable(command + (sideways ? ", sideways" : ", upside down")))
+            << layerImage(command) << layerImage(other) << sideways;
+    };
+    commands("moveUp", "moveDown", false);
+    commands("moveToTop", "movToBottom", false);
+    commands("alignTop", "alignBottom", false);
+    commands("alignTop", "alignTop", true);
+    commands("alignVerticalCenter", "alignVerticalCenter", false);
+    commands("alignVerticalCenter", "alignVerticalCenter", true);
+    commands("alignLeft", "alignRight", true);
+    commands("alignLeft", "alignLeft", false);
+    commands("alignHorisontalCenter", "alignHorisontalCenter", true);
+    commands("alignHorisontalCenter", "alignHorisontalCenter", false);
+    commands("horisontalFull", "horisontalFull", true);
+    commands("verticallFull", "verticallFull", false);
 }
 
 void tst_Assets::opposedImagesMirrorEachOther()
@@ -338,8 +434,8 @@ void tst_Assets::arrowsAreReadableOnEveryGround()
     const QColor color = arrow.pixelColor(drawnArea(arrow).center());
 
     QCOMPARE(color.alpha(), 255);
-    QVERIFY(contrast(color, QColor(0x45, 0x45, 0x45)) >= 4.5);
-    QVERIFY(contrast(color, QColor(0x6f, 0x6f, 0x6f)) >= 3);
+    QVERIFY(contrast(color, panelGround) >= 4.5);
+    QVERIFY(contrast(color, hoverGround) >= 3);
 }
 
 BOARDWRIGHT_TEST_MAIN(tst_Assets)
