@@ -3,32 +3,20 @@
 #include "canvas/screenitem.h"
 #include "tests/support/dialoganswers.h"
 #include "tests/support/files.h"
+#include "tests/support/samples.h"
 #include "tests/support/strictmain.h"
 
-#include <QDir>
 #include <QTemporaryDir>
 
-// Every sample board, found by listing their folder, goes through the editor and comes out unchanged.
+// Every sample board goes through the editor and comes out unchanged.
 class tst_Samples : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void comesOutUnchanged_data();
+    void comesOutUnchanged_data() { addSamples(); }
     void comesOutUnchanged();
 };
-
-void tst_Samples::comesOutUnchanged_data()
-{
-    QTest::addColumn<QString>("sample");
-
-    const QFileInfoList samples =
-        QDir(BOARDWRIGHT_SOURCE_DIR "/samples").entryInfoList({"*.lay"}, QDir::Files);
-    if (samples.size() < 3)
-        QFAIL("fewer than three samples");
-    for (const QFileInfo &sample : samples)
-        QTest::newRow(qPrintable(sample.fileName())) << sample.filePath();
-}
 
 void tst_Samples::comesOutUnchanged()
 {

@@ -6,6 +6,7 @@
 #include "canvas/screenpicture.h"
 #include "tests/support/boards.h"
 #include "tests/support/files.h"
+#include "tests/support/samples.h"
 #include "tests/support/strictmain.h"
 
 #include <QDir>
@@ -29,7 +30,7 @@ private slots:
     void answersNullOnSuccess();
     void rendersThePixelsOfTheEditor_data();
     void rendersThePixelsOfTheEditor();
-    void rendersEverySampleAsTheEditorDoes_data();
+    void rendersEverySampleAsTheEditorDoes_data() { addSamples(); }
     void rendersEverySampleAsTheEditorDoes();
     void choosesTheFormatBySuffix_data();
     void choosesTheFormatBySuffix();
@@ -180,18 +181,6 @@ void tst_BoardRenderer::rendersThePixelsOfTheEditor()
     const QImage rendered(path(picture));
     QCOMPARE(rendered.size(), QSize(200, 100));
     QCOMPARE(comparable(rendered), comparable(editorPictureOf(path("board.lay"))));
-}
-
-void tst_BoardRenderer::rendersEverySampleAsTheEditorDoes_data()
-{
-    QTest::addColumn<QString>("sample");
-
-    const QFileInfoList samples =
-        QDir(BOARDWRIGHT_SOURCE_DIR "/samples").entryInfoList({"*.lay"}, QDir::Files);
-    if (samples.size() < 3)
-        QFAIL("fewer than three samples");
-    for (const QFileInfo &sample : samples)
-        QTest::newRow(qPrintable(sample.fileName())) << sample.filePath();
 }
 
 void tst_BoardRenderer::rendersEverySampleAsTheEditorDoes()
