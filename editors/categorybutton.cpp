@@ -1,5 +1,6 @@
 #include "editors/categorybutton.h"
 
+#include <QAccessibleWidget>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -22,11 +23,56 @@ QLabel *textLabel(const QString &text, QWidget *parent)
 }
 } // namespace
 
+/// What screen readers see of a header.
+class CategoryButton::Accessible : public QAccessibleWidget
+{
+public:
+    explicit Accessible(CategoryButton *header)
+        : QAccessibleWidget(header, QAccessible::Button),
+          m_header(header)
+    {
+    }
+
+    static QAccessibleInterface *create(const QString &className, QObject *object)
+    {
+        Q_UNUSED(className)
+        auto *header = qobject_cast<CategoryButton *>(object);
+        return header ? new Accessible(header) : nullptr;
+    }
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.expandable = true;
+        state.expanded = m_header->m_item->isExpanded();
+        state.collapsed = !state.expanded;
+        return state;
+    }
+
+    QStringList actionNames() const override
+    {
+        return QStringList(pressAction()) + QAccessibleWidget::actionNames();
+    }
+
+    void doAction(const QString &name) override
+    {
+        if (name == pressAction())
+            m_header->ButtonPressed();
+        else
+            QAccessibleWidget::doAction(name);
+    }
+
+private:
+    CategoryButton *m_header;
+};
+
 CategoryButton::CategoryButton(QString text, QTreeWidget *tree, QTreeWidgetItem *item)
     : QWidget(tree),
       m_item(item),
       m_icon(new QLabel(this))
 {
+    // Before the toolkit first asks, as it does for a change of the name.
+    QAccessible::installFactory(&Accessible::create);
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(textLabel(text, this));

@@ -7,7 +7,7 @@ class QTreeWidget;
 class QTreeWidgetItem;
 
 /// The header of a category in a property tree: its name and an arrow. A press, or Space and Enter, opens and
-/// closes the category.
+/// closes the category. To screen readers it is a button that can be open.
 class CategoryButton : public QWidget
 {
     Q_OBJECT
@@ -26,6 +26,8 @@ private slots:
     void ButtonPressed();
 
 private:
+    class Accessible;
+
     void showState();
 
     QTreeWidgetItem *m_item;

@@ -3,6 +3,7 @@
 #include "assets/assets.h"
 #include "tests/support/strictmain.h"
 
+#include <QAccessible>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QTreeWidget>
@@ -27,6 +28,7 @@ struct ShownCategory {
     QLabel *text() const { return part(0); }
     QLabel *icon() const { return part(1); }
     QString sheet() const { return icon()->styleSheet(); }
+    QAccessibleInterface *accessible() const { return QAccessible::queryAccessibleInterface(button); }
 
     QLabel *part(int index) const
     {
@@ -59,7 +61,9 @@ private slots:
     void followsItemThatTreeOpensAndCloses();
     void togglesBySlotOfThisName();
     void togglesItsOwnItemAlone();
-    void isNamedForScreenReaders();
+    void isAButtonToScreenReaders();
+    void isToggledByScreenReaders();
+    void isGivenTheFocusByScreenReaders();
     void showsThatItHasTheFocus();
 };
 
@@ -179,10 +183,35 @@ void tst_CategoryButton::togglesItsOwnItemAlone()
     QVERIFY(!other->isExpanded());
 }
 
-void tst_CategoryButton::isNamedForScreenReaders()
+void tst_CategoryButton::isAButtonToScreenReaders()
 {
     const ShownCategory shown;
-    QCOMPARE(shown.button->accessibleName(), QString("Area (px)"));
+    QCOMPARE(shown.accessible()->text(QAccessible::Name), QString("Area (px)"));
+    QCOMPARE(shown.accessible()->role(), QAccessible::Button);
+    QVERIFY(shown.accessible()->state().focusable);
+}
+
+void tst_CategoryButton::isToggledByScreenReaders()
+{
+    const ShownCategory shown;
+    QVERIFY(shown.accessible()->state().expandable);
+    for (const bool isOpen : {true, false, true}) {
+        QCOMPARE(bool(shown.accessible()->state().expanded), isOpen);
+        QCOMPARE(bool(shown.accessible()->state().collapsed), !isOpen);
+        QCOMPARE(shown.item->isExpanded(), isOpen);
+        QAccessibleActionInterface *actions = shown.accessible()->actionInterface();
+        QCOMPARE(actions->actionNames().first(), QAccessibleActionInterface::pressAction());
+        actions->doAction(QAccessibleActionInterface::pressAction());
+    }
+}
+
+void tst_CategoryButton::isGivenTheFocusByScreenReaders()
+{
+    ShownCategory shown;
+    QVERIFY(QTest::qWaitForWindowActive(&shown.tree));
+    shown.accessible()->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+    QVERIFY(shown.button->hasFocus());
+    QVERIFY(shown.item->isExpanded());
 }
 
 void tst_CategoryButton::showsThatItHasTheFocus()
