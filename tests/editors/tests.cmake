@@ -1,14 +1,13 @@
+add_library(boardwright_edittest STATIC
+    editors/choicetest.cpp editors/choicetest.h
+    editors/editlog.cpp editors/editlog.h
+)
+target_link_libraries(boardwright_edittest PUBLIC boardwright_editors boardwright_testsupport)
+
 boardwright_add_test(editors/tst_categorybutton LINK boardwright_editors)
-boardwright_add_test(editors/tst_checkedit LINK boardwright_editors SOURCES editors/editlog.cpp editors/editlog.h)
-boardwright_add_test(editors/tst_coloredit LINK boardwright_editors SOURCES editors/editlog.cpp editors/editlog.h)
 boardwright_add_test(editors/tst_colorlisteditor LINK boardwright_editors)
-boardwright_add_test(editors/tst_colorvalueedit LINK boardwright_editors SOURCES editors/editlog.cpp editors/editlog.h)
-boardwright_add_test(editors/tst_enumedit LINK boardwright_editors SOURCES editors/editlog.cpp editors/editlog.h)
-boardwright_add_test(editors/tst_filepathedit LINK boardwright_editors SOURCES editors/editlog.cpp editors/editlog.h)
-boardwright_add_test(editors/tst_fontcoloredit LINK boardwright_editors SOURCES editors/editlog.cpp editors/editlog.h)
-boardwright_add_test(editors/tst_fontfamilyedit LINK boardwright_editors SOURCES editors/editlog.cpp editors/editlog.h)
-boardwright_add_test(editors/tst_intedit LINK boardwright_editors SOURCES editors/editlog.cpp editors/editlog.h)
 boardwright_add_test(editors/tst_propertypanel LINK boardwright_editors)
-boardwright_add_test(editors/tst_styledcheckedit LINK boardwright_editors SOURCES editors/editlog.cpp editors/editlog.h)
-boardwright_add_test(editors/tst_textedit LINK boardwright_editors SOURCES editors/editlog.cpp editors/editlog.h)
 boardwright_add_test(editors/tst_variableedit LINK boardwright_editors)
+foreach(editor check color colorvalue enum filepath fontcolor fontfamily int styledcheck text)
+    boardwright_add_test(editors/tst_${editor}edit LINK boardwright_edittest)
+endforeach()

@@ -15,6 +15,7 @@ class tst_ColorEdit : public QObject
 private slots:
     void tellsItsClass();
     void holdsItsButtonInAWidgetInOneRow();
+    void keepsItsButtonAtTheLeft();
     void hasButtonOfTwentyPixels_data();
     void hasButtonOfTwentyPixels();
     void keepsKeyInItsButton();
@@ -39,6 +40,14 @@ void tst_ColorEdit::holdsItsButtonInAWidgetInOneRow()
     const auto *button = edit.findChild<QPushButton *>();
     QCOMPARE(row->itemAt(0)->widget(), button->parentWidget());
     QVERIFY(button->parentWidget() != &edit);
+}
+
+void tst_ColorEdit::keepsItsButtonAtTheLeft()
+{
+    ColorEdit edit;
+    edit.resize(300, 30);
+    edit.show();
+    QCOMPARE(edit.findChild<QPushButton *>()->x(), 0);
 }
 
 void tst_ColorEdit::hasButtonOfTwentyPixels_data()
@@ -74,6 +83,8 @@ void tst_ColorEdit::keepsKeyInItsButton()
     edit.setValue("Border Color", "red");
     QCOMPARE(edit.findChild<QPushButton *>()->text(), QString("Border Color"));
     QCOMPARE(edit.getKey(), QString("Border Color"));
+    edit.setValue("Color", "red");
+    QCOMPARE(edit.getKey(), QString("Color"));
 }
 
 void tst_ColorEdit::hasStyleSheetToTheLetter()

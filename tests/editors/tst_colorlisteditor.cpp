@@ -51,6 +51,9 @@ void tst_ColorListEditor::readsColorOfCurrentItem()
     ColorListEditor editor;
     editor.setCurrentText("navy");
     QCOMPARE(editor.property("color").value<QColor>(), QColor(0, 0, 128));
+    // The data counts, not the name.
+    editor.setItemData(editor.currentIndex(), QColor(1, 2, 3));
+    QCOMPARE(editor.color(), QColor(1, 2, 3));
 }
 
 void tst_ColorListEditor::readsInvalidColorWithoutItem()

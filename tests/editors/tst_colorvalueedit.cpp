@@ -50,7 +50,7 @@ class tst_ColorValueEdit : public QObject
     Q_OBJECT
 
 private slots:
-    void hasSlotAndSignalsByName();
+    void hasColorSignalAfterThoseOfEveryEditor();
     void startsWithoutColor();
     void writesColorInSixLowerCaseDigits_data();
     void writesColorInSixLowerCaseDigits();
@@ -61,6 +61,8 @@ private slots:
     void opensDialogWithItsColor();
     void tellsChosenColorThenItsObject_data() { addBothEditors(); }
     void tellsChosenColorThenItsObject();
+    void wearsItsColorBeforeItTells_data() { addBothEditors(); }
+    void wearsItsColorBeforeItTells();
     void opensDialogBySpaceKey_data() { addBothEditors(); }
     void opensDialogBySpaceKey();
     void tellsAcceptedColorThoughItIsTheSame_data() { addBothEditors(); }
@@ -83,10 +85,9 @@ private slots:
     void namesItsButtonByTheKey();
 };
 
-void tst_ColorValueEdit::hasSlotAndSignalsByName()
+void tst_ColorValueEdit::hasColorSignalAfterThoseOfEveryEditor()
 {
     const QMetaObject &meta = ColorValueEdit::staticMetaObject;
-    QVERIFY(meta.indexOfSlot("colorSelectorClicked()") >= 0);
     QVERIFY(meta.indexOfSignal("colorChanged(QColor)") > meta.indexOfSignal("valueEdited(QString,QVariant)"));
 }
 
@@ -166,6 +167,22 @@ void tst_ColorValueEdit::tellsChosenColorThenItsObject()
     QCOMPARE(colors, QList<QColor>({QColor(0x12, 0xab, 0x9f)}));
     QCOMPARE(edit->getValue(), QVariant("#12ab9f"));
     QCOMPARE(log.takeEdits(), QStringList());
+}
+
+void tst_ColorValueEdit::wearsItsColorBeforeItTells()
+{
+    const auto edit = newEdit("white");
+    QString value;
+    QString dress;
+    connect(edit.get(), &VariableEdit::valueEdited, this, [&] {
+        value = edit->getValue().toString();
+        dress = buttonOf(*edit)->styleSheet();
+    });
+    DialogAnswers answers;
+    typeColor(answers, "#12ab9f");
+    click(*edit);
+    QCOMPARE(value, QString("#12ab9f"));
+    QVERIFY(dress.contains("#12ab9f"));
 }
 
 void tst_ColorValueEdit::opensDialogBySpaceKey()
