@@ -116,8 +116,8 @@ void CategoryButton::paintEvent(QPaintEvent *event)
 
 void CategoryButton::ButtonPressed()
 {
+    // The tree tells of it, which brings the arrow round.
     m_item->setExpanded(!m_item->isExpanded());
-    showState();
 }
 
 void CategoryButton::showState()

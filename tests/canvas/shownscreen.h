@@ -2,9 +2,9 @@
 
 #include "canvas/screen.h"
 #include "canvas/screenitem.h"
+#include "tests/support/eventcounter.h"
 
 #include <QCoreApplication>
-#include <QEvent>
 #include <QLineEdit>
 #include <QTest>
 #include <QVBoxLayout>
@@ -27,24 +27,6 @@ struct ShownScreen {
     Screen screen{&window};
     QLineEdit neighbour{&window};
     bool ready = false;
-};
-
-/// Counts the events of one type that reach a widget.
-class EventCounter : public QObject
-{
-public:
-    EventCounter(QWidget *widget, QEvent::Type type) : m_type(type) { widget->installEventFilter(this); }
-    int count = 0;
-
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        count += event->type() == m_type;
-        return QObject::eventFilter(watched, event);
-    }
-
-private:
-    QEvent::Type m_type;
 };
 
 /// Deletes what was scheduled for deletion, as the event loop would.

@@ -1,6 +1,7 @@
 #include "editors/categorybutton.h"
 
 #include "assets/assets.h"
+#include "tests/support/eventcounter.h"
 #include "tests/support/strictmain.h"
 
 #include <QAccessible>
@@ -40,6 +41,16 @@ struct ShownCategory {
     CategoryButton *button = new CategoryButton("Area (px)", &tree, item);
     QTreeWidgetItem *row = nullptr;
 };
+
+/// True when the outermost pixels of a picture all have one colour.
+bool hasPlainEdge(const QImage &picture)
+{
+    for (int x = 0; x < picture.width(); ++x) {
+        if (picture.pixel(x, 0) != picture.pixel(0, 1))
+            return false;
+    }
+    return true;
+}
 } // namespace
 
 class tst_CategoryButton : public QObject
@@ -57,7 +68,7 @@ private slots:
     void togglesAtEveryPress();
     void togglesByKeys_data();
     void togglesByKeys();
-    void leavesOtherKeysAlone();
+    void leavesOtherKeysToTheTree();
     void followsItemThatTreeOpensAndCloses();
     void togglesBySlotOfThisName();
     void togglesItsOwnItemAlone();
@@ -65,6 +76,7 @@ private slots:
     void isToggledByScreenReaders();
     void isGivenTheFocusByScreenReaders();
     void showsThatItHasTheFocus();
+    void leavesTheFocusWhereItIsWhenPressed();
 };
 
 void tst_CategoryButton::isARowOf30Pixels()
@@ -146,11 +158,15 @@ void tst_CategoryButton::togglesByKeys()
     QCOMPARE(shown.sheet(), QString(openSheet));
 }
 
-void tst_CategoryButton::leavesOtherKeysAlone()
+void tst_CategoryButton::leavesOtherKeysToTheTree()
 {
-    const ShownCategory shown;
+    ShownCategory shown;
+    const EventCounter keys(shown.tree.viewport(), QEvent::KeyPress);
     QTest::keyClick(shown.button, Qt::Key_A);
     QVERIFY(shown.item->isExpanded());
+    QCOMPARE(keys.count, 1);
+    QTest::keyClick(shown.button, Qt::Key_Space);
+    QCOMPARE(keys.count, 1);
 }
 
 void tst_CategoryButton::followsItemThatTreeOpensAndCloses()
@@ -177,9 +193,11 @@ void tst_CategoryButton::togglesItsOwnItemAlone()
     auto *other = new QTreeWidgetItem(&shown.tree);
     auto *otherButton = new CategoryButton("Basic Properties", &shown.tree, other);
     shown.tree.setItemWidget(other, 0, otherButton);
+    const EventCounter dressings(shown.icon(), QEvent::StyleChange);
     QTest::mousePress(otherButton, Qt::LeftButton);
     QVERIFY(shown.item->isExpanded());
     QCOMPARE(shown.sheet(), QString(openSheet));
+    QCOMPARE(dressings.count, 0);
     QVERIFY(!other->isExpanded());
 }
 
@@ -219,10 +237,19 @@ void tst_CategoryButton::showsThatItHasTheFocus()
     ShownCategory shown;
     QVERIFY(QTest::qWaitForWindowActive(&shown.tree));
     shown.tree.setFocus();
-    const QImage without = shown.button->grab().toImage();
+    QVERIFY(hasPlainEdge(shown.button->grab().toImage()));
     QTest::keyClick(&shown.tree, Qt::Key_Tab);
     QVERIFY(shown.button->hasFocus());
-    QVERIFY(shown.button->grab().toImage() != without);
+    QVERIFY(!hasPlainEdge(shown.button->grab().toImage()));
+}
+
+void tst_CategoryButton::leavesTheFocusWhereItIsWhenPressed()
+{
+    ShownCategory shown;
+    QVERIFY(QTest::qWaitForWindowActive(&shown.tree));
+    shown.tree.setFocus();
+    QTest::mouseClick(shown.button, Qt::LeftButton);
+    QVERIFY(shown.tree.hasFocus());
 }
 
 BOARDWRIGHT_TEST_MAIN(tst_CategoryButton)

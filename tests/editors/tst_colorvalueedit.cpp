@@ -3,6 +3,7 @@
 
 #include "tests/editors/coloranswers.h"
 #include "tests/editors/editlog.h"
+#include "tests/support/eventcounter.h"
 #include "tests/support/strictmain.h"
 
 #include <QAbstractButton>
@@ -285,15 +286,7 @@ void tst_ColorValueEdit::survivesItsDeletionByListener()
 void tst_ColorValueEdit::keepsDressOfSameColor()
 {
     const auto edit = newEdit("white");
-    struct Dressings : QObject {
-        bool eventFilter(QObject *, QEvent *event) override
-        {
-            count += event->type() == QEvent::StyleChange;
-            return false;
-        }
-        int count = 0;
-    } dressings;
-    buttonOf(*edit)->installEventFilter(&dressings);
+    const EventCounter dressings(buttonOf(*edit), QEvent::StyleChange);
     edit->setValue("Color", "#ffffff");
     QCOMPARE(dressings.count, 0);
     edit->setValue("Color", "#fffffe");

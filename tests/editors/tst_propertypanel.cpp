@@ -128,6 +128,8 @@ private slots:
     void initTestCase() { initAssets(); }
 
     void fillsAColumnOfItsHost();
+    void showsItselfInAVisibleHost();
+    void leavesNoRoomAroundEditors();
     void showsATreeWithoutHeaderRootsAndIndentation();
     void doesNotTakeTheFocusItself();
     void showsValueBeforeItListens();
@@ -158,6 +160,23 @@ void tst_PropertyPanel::fillsAColumnOfItsHost()
     QCOMPARE(shown.panel->parentWidget(), &shown.host);
     shown.host.show();
     QVERIFY(shown.panel->isVisible());
+}
+
+void tst_PropertyPanel::showsItselfInAVisibleHost()
+{
+    NotingContent content;
+    QWidget host;
+    host.show();
+    QVERIFY((new PropertyPanel(&content, &host))->isVisible());
+}
+
+void tst_PropertyPanel::leavesNoRoomAroundEditors()
+{
+    ShownPanel shown;
+    auto *edit = new FilePathEdit(shown.panel);
+    shown.panel->bind(edit, "Path");
+    QCOMPARE(edit->layout()->contentsMargins(), QMargins());
+    QCOMPARE(edit->layout()->spacing(), 0);
 }
 
 void tst_PropertyPanel::showsATreeWithoutHeaderRootsAndIndentation()
@@ -343,6 +362,8 @@ void tst_PropertyPanel::alignsLabels()
         const auto *upper = shown.editor(pair.first)->findChild<QSpinBox *>();
         const auto *lower = shown.editor(pair.second)->findChild<QSpinBox *>();
         QCOMPARE(upper->mapTo(&shown.host, QPoint()).x(), lower->mapTo(&shown.host, QPoint()).x());
+        const auto *wider = shown.editor(pair.second)->findChild<QLabel *>();
+        QVERIFY(wider->width() > wider->sizeHint().width());
     }
 }
 
