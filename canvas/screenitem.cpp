@@ -100,6 +100,12 @@ void ScreenItem::setContent(ContentViewer *content)
     m_border->raise();
 }
 
+void ScreenItem::contentEdited()
+{
+    if (Screen *screen = canvas())
+        screen->markModified();
+}
+
 void ScreenItem::attachToScreen(Screen *screen)
 {
     if (!screen)
@@ -220,8 +226,7 @@ void ScreenItem::setValue(QString key, QVariant value)
 {
     if (m_content)
         m_content->setValue(key, value);
-    if (Screen *screen = canvas())
-        screen->markModified();
+    contentEdited();
 }
 
 QVariant ScreenItem::getValue(QString key)

@@ -29,6 +29,8 @@ public:
     /// Shows the content, which the frame owns from now on. With null only the border is raised.
     void setContent(ContentViewer *content) override;
 
+    void contentEdited() override;
+
     /// The content, null until there is one.
     ContentViewer *content() const { return m_content; }
 

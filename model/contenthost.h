@@ -2,7 +2,7 @@
 
 class ContentViewer;
 
-/// What a content needs to know of the frame that it is made in: that the frame takes it.
+/// What a content needs to know of the frame that it is made in: that the frame takes it and hears of edits.
 class ContentHost
 {
 public:
@@ -10,4 +10,7 @@ public:
 
     /// Takes the content as the one thing shown by this host, which owns it from now on. Null is allowed.
     virtual void setContent(ContentViewer *content) = 0;
+
+    /// The content was edited in place: there is something to save.
+    virtual void contentEdited() = 0;
 };

@@ -130,6 +130,7 @@ QVariant ContentViewer::getMaxValue(QString key)
 bool ContentViewer::fromJson(QJsonObject object)
 {
     bool complete = true;
+    beginReading();
     const auto definitions = getValueNameTypeDefinition();
     for (const Definition &definition : definitions) {
         if (m_values.contains(definition.first))
@@ -138,11 +139,13 @@ bool ContentViewer::fromJson(QJsonObject object)
             complete = false;
     }
     anyValueChanged();
+    endReading();
     return complete;
 }
 
 QJsonObject ContentViewer::toJson()
 {
+    commitEditing();
     QJsonObject object;
     object.insert(Keys::type(), QJsonValue::fromVariant(m_values.value(Keys::type())));
     const auto definitions = getValueNameTypeDefinition();
@@ -167,6 +170,12 @@ bool ContentViewer::event(QEvent *event)
     const bool isUnfinished = metaObject() == &ContentViewer::staticMetaObject;
     return event->type() == QEvent::Polish && isUnfinished ? true : QWidget::event(event);
 }
+
+void ContentViewer::beginReading() {}
+
+void ContentViewer::endReading() {}
+
+void ContentViewer::commitEditing() {}
 
 void ContentViewer::initValues(const QString &typeName)
 {

@@ -90,6 +90,13 @@ protected:
     /// one).
     void initValues(const QString &typeName);
 
+    /// Brackets the many values of fromJson(), for kinds that apply them better at once.
+    virtual void beginReading();
+    virtual void endReading();
+
+    /// Takes what is being edited in place into the map, without ending it: values are about to be written.
+    virtual void commitEditing();
+
     /// Writes the four geometry values into the map, without a signal.
     void storeGeometry(const QRect &geometry);
 

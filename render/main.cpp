@@ -1,4 +1,6 @@
-#include "assets/assets.h"
+#include "model/applicationfonts.h"
+#include "model/applicationstyle.h"
+#include "model/fontsubstitutions.h"
 #include "render/boardrenderer.h"
 
 #include <QApplication>
@@ -40,7 +42,10 @@ int main(int argc, char *argv[])
     // No window is ever shown, so no display is needed.
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
-    initAssets();
+    // As in the editor, whose picture this is to be.
+    applyApplicationStyle();
+    loadApplicationFonts();
+    registerFontSubstitutions();
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.size() != 3)
         return fail(QStringLiteral("usage: boardwright-render LAYOUT.lay PICTURE.png"));

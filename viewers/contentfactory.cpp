@@ -1,6 +1,7 @@
 #include "viewers/contentfactory.h"
 
 #include "viewers/shape.h"
+#include "viewers/textoutput.h"
 
 #include <algorithm>
 #include <iterator>
@@ -25,6 +26,7 @@ struct Kind {
 };
 
 constexpr Kind kinds[] = {
+    {"Text", "Text", ":/assets/interface/text.png", make<TextOutput>, true, true},
     {"Shape", "Shape", ":/assets/interface/shapes.png", make<Shape>, true, true},
 };
 

@@ -75,6 +75,7 @@ public:
         given << content;
         wasParent = content->parentWidget() == this;
     }
+    void contentEdited() override {}
 
     QList<ContentViewer *> given;
     bool wasParent = false;

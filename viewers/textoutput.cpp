@@ -1,0 +1,415 @@
+#include "viewers/textoutput.h"
+
+#include "model/contenthost.h"
+#include "model/keys.h"
+#include "model/widgetgeometry.h"
+#include "viewers/customtexteditor.h"
+#include "viewers/datafields.h"
+#include "viewers/richtext.h"
+#include "viewers/textdocument.h"
+#include "viewers/textkeys.h"
+#include "viewers/textpanel.h"
+#include "viewers/textstyle.h"
+
+#include <QDebug>
+#include <QMouseEvent>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+#include <QSignalBlocker>
+#include <QTextCursor>
+#include <QTextFrame>
+#include <QTextFrameFormat>
+
+namespace
+{
+constexpr int smallestFont = 1;  // points
+constexpr int largestFont = 512; // points
+constexpr int cursorStep = 4;    // characters
+
+/// What a new text and a text that was read are dressed in, in this order.
+QStringList everyFormat()
+{
+    return {TextKeys::italic(), TextKeys::font(),  TextKeys::underlined(), TextKeys::size(),
+            TextKeys::bold(),   TextKeys::color(), TextKeys::aligment()};
+}
+
+bool isMouseOfFrame(QEvent::Type type)
+{
+    return type == QEvent::MouseButtonPress || type == QEvent::MouseButtonRelease ||
+           type == QEvent::MouseMove;
+}
+} // namespace
+
+TextOutput::TextOutput(QWidget *parent) : ContentViewer(parent)
+{
+    initValues(QStringLiteral("Text"));
+    m_values.insert(TextKeys::size(), 8);
+    m_values.insert(TextKeys::font(), QStringLiteral("Arial"));
+    m_values.insert(TextKeys::color(), QStringLiteral("white"));
+    m_values.insert(
+        TextKeys::text(),
+        QStringLiteral("<html><body><p align = \"center\" width = \"100%\">Text</p></body></html>"));
+    m_values.insert(TextKeys::textType(), QStringLiteral("Text"));
+    // Left and top, while the text is shown in the middle: on purpose.
+    m_values.insert(TextKeys::alignment(), TextAlignment::Left + TextAlignment::Top);
+    m_values.insert(TextKeys::autoSize(), true);
+    m_values.insert(TextKeys::underlined(), false);
+    m_values.insert(TextKeys::bold(), false);
+    m_values.insert(TextKeys::italic(), false);
+    buildEditor();
+    showText();
+    format(everyFormat());
+}
+
+void TextOutput::buildEditor()
+{
+    m_editor = new CustomTextEditor(this);
+    auto *document = new TextDocument(m_editor);
+    // What the program does to a text is nothing for the user to undo.
+    document->setUndoRedoEnabled(false);
+    m_editor->setDocument(document);
+    m_editor->setFrameShape(QFrame::NoFrame);
+    m_editor->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_editor->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_editor->setFocusPolicy(Qt::NoFocus);
+    m_editor->setReadOnly(true);
+    m_editor->setAcceptRichText(true);
+    lodgeEditor(this);
+    connect(document, &QTextDocument::modificationChanged, this, &TextOutput::tellEdit);
+}
+
+QVector<QPair<QString, ContentViewer::Parameters::ValueType>> TextOutput::getValueNameTypeDefinition()
+{
+    return {{TextKeys::text(), Parameters::Text},
+            {TextKeys::textType(), Parameters::Enum},
+            {Keys::x(), Parameters::Int},
+            {Keys::y(), Parameters::Int},
+            {Keys::w(), Parameters::Int},
+            {Keys::h(), Parameters::Int},
+            {TextKeys::font(), Parameters::Font},
+            {TextKeys::size(), Parameters::Int},
+            {TextKeys::autoSize(), Parameters::Check},
+            {TextKeys::bold(), Parameters::Check},
+            {TextKeys::italic(), Parameters::Check},
+            {TextKeys::underlined(), Parameters::Check},
+            {TextKeys::alignment(), Parameters::Int},
+            {TextKeys::color(), Parameters::Color}};
+}
+
+void TextOutput::anyValueChanged()
+{
+    qDebug("void TextOutput::anyValueChanged()");
+    ContentViewer::anyValueChanged();
+}
+
+QStringList TextOutput::getEnumsFor(QString enumName)
+{
+    return enumName == TextKeys::textType() ? DataFields::names() : QStringList();
+}
+
+void TextOutput::setValue(QString key, QVariant value)
+{
+    qDebug(" void TextOutput::setValue(QString key, QVariant value)");
+    const TextAlignment::Button *button = TextAlignment::button(key);
+    if (key == TextKeys::alignment())
+        setAlignment(value.toInt());
+    if (button && !isPressed(*button) && !m_isAnnouncing)
+        press(*button);
+    else if (key == TextKeys::text())
+        setText(value);
+    else
+        store(key, value);
+}
+
+void TextOutput::setAlignment(int code)
+{
+    m_vertical = code % 10;
+    m_horizontal = code - m_vertical;
+    announceAlignment();
+    format({TextKeys::aligment()});
+    update();
+}
+
+void TextOutput::announceAlignment()
+{
+    // An open panel answers with the keys of the buttons that it turns on and off: those are no presses.
+    const QScopedValueRollback<bool> announcing(m_isAnnouncing, true);
+    for (const TextAlignment::Button &button : TextAlignment::announced)
+        emit valueChanged(QLatin1String(button.key), isPressed(button));
+}
+
+void TextOutput::press(const TextAlignment::Button &button)
+{
+    const bool isVertical = TextAlignment::isVertical(button);
+    // Told before it is done: what an open panel answers is then the repetition of a state, not a press.
+    for (const TextAlignment::Button &other :
+         isVertical ? TextAlignment::vertical : TextAlignment::horizontal) {
+        if (other.part != button.part)
+            emit valueChanged(QLatin1String(other.key), false);
+    }
+    emit valueChanged(QLatin1String(button.key), true);
+    (isVertical ? m_vertical : m_horizontal) = button.part;
+    m_values.insert(TextKeys::alignment(), m_horizontal + m_vertical);
+    update();
+    format({TextKeys::aligment()});
+}
+
+bool TextOutput::isPressed(const TextAlignment::Button &button) const
+{
+    return button.part == (TextAlignment::isVertical(button) ? m_vertical : m_horizontal);
+}
+
+void TextOutput::setText(const QVariant &text)
+{
+    m_values.insert(TextKeys::text(), text);
+    emit valueChanged(TextKeys::text(), text);
+    showText();
+    update();
+    format({TextKeys::aligment()});
+}
+
+void TextOutput::store(const QString &key, const QVariant &value)
+{
+    // Also the key of a button that is pressed already: on purpose.
+    m_values.insert(key, value);
+    if (TextStyle::isStyle(key))
+        format({key});
+    anyValueChanged();
+    update();
+}
+
+QVariant TextOutput::getValue(QString key)
+{
+    update();
+    const QWidget *frame = parentWidget() ? parentWidget() : this;
+    if (key == Keys::x())
+        return frame->x();
+    if (key == Keys::y())
+        return frame->y();
+    if (key == Keys::w())
+        return frame->width();
+    if (key == Keys::h())
+        return frame->height();
+    if (key == TextKeys::alignment())
+        return m_horizontal + m_vertical;
+    if (const TextAlignment::Button *button = TextAlignment::button(key))
+        return isPressed(*button);
+    return m_values.value(key).toString();
+}
+
+void TextOutput::applyGeometry(QRect geometry)
+{
+    ContentViewer::applyGeometry(geometry);
+}
+
+QVariant TextOutput::getMinValue(QString key)
+{
+    return key == TextKeys::size() ? QVariant(smallestFont) : ContentViewer::getMinValue(key);
+}
+
+QVariant TextOutput::getMaxValue(QString key)
+{
+    return key == TextKeys::size() ? QVariant(largestFont) : ContentViewer::getMaxValue(key);
+}
+
+void TextOutput::buildSettingsPanel(QWidget *host)
+{
+    TextPanel::build(*this, host);
+}
+
+void TextOutput::paintEvent(QPaintEvent *event)
+{
+    Q_UNUSED(event)
+}
+
+void TextOutput::resizeEvent(QResizeEvent *event)
+{
+    Q_UNUSED(event)
+    // Dressed first: its sheet decides about its margins.
+    m_editor->ensurePolished();
+    resizeNow(m_editor, size());
+    format({TextKeys::aligment()});
+}
+
+void TextOutput::beginReading()
+{
+    m_isReading = !isEditing();
+}
+
+void TextOutput::endReading()
+{
+    if (!m_isReading)
+        return;
+    m_isReading = false;
+    showText();
+    format(everyFormat());
+}
+
+void TextOutput::showText()
+{
+    if (m_isReading)
+        return;
+    const QString html = m_values.value(TextKeys::text()).toString();
+    m_isShownWhole = RichText::isShowable(html);
+    if (m_isShownWhole)
+        m_editor->document()->setHtml(html);
+    else
+        m_editor->document()->setPlainText(RichText::excerpt(html));
+}
+
+void TextOutput::format(const QStringList &keys)
+{
+    if (m_isReading)
+        return;
+    QTextCursor cursor = m_editor->textCursor();
+    if (!isEditing())
+        cursor.select(QTextCursor::Document);
+    QTextCharFormat style;
+    for (const QString &key : keys)
+        style.merge(TextStyle::charFormat(key, m_values.value(key)));
+    if (!style.isEmpty())
+        cursor.mergeCharFormat(style);
+    if (keys.contains(TextKeys::aligment()))
+        alignParagraphs(cursor);
+    m_editor->show();
+    if (!isEditing())
+        cursor.movePosition(QTextCursor::Left, QTextCursor::MoveAnchor, cursorStep);
+    m_editor->setTextCursor(cursor);
+    disconnect(m_editor, &QTextEdit::textChanged, this, nullptr);
+    placeText();
+}
+
+void TextOutput::alignParagraphs(QTextCursor &cursor) const
+{
+    const auto flags = TextAlignment::flags(m_horizontal + m_vertical);
+    if (!flags)
+        return;
+    QTextBlockFormat paragraph;
+    paragraph.setAlignment(*flags);
+    cursor.mergeBlockFormat(paragraph);
+}
+
+void TextOutput::placeText()
+{
+    if (m_vertical == TextAlignment::Middle)
+        ValignMiddle();
+    else if (m_vertical == TextAlignment::Bottom)
+        ValignBottom();
+    else if (m_vertical == TextAlignment::Top)
+        ValignTop();
+}
+
+void TextOutput::ValignTop()
+{
+    setTopMargin(&TextAlignment::topMargin);
+}
+
+void TextOutput::ValignMiddle()
+{
+    qDebug("void TextOutput::ValignMiddle()");
+    setTopMargin(&TextAlignment::middleMargin);
+}
+
+void TextOutput::ValignBottom()
+{
+    setTopMargin(&TextAlignment::bottomMargin);
+}
+
+void TextOutput::setTopMargin(int (*marginFor)(int, int))
+{
+    const int documentHeight = int(m_editor->document()->size().height());
+    if (documentHeight == 0)
+        return;
+    const QSignalBlocker silence(m_editor);
+    QTextFrame *root = m_editor->document()->rootFrame();
+    QTextFrameFormat format = root->frameFormat();
+    const int contentHeight = documentHeight - int(format.topMargin());
+    const int margin = marginFor(contentHeight, m_editor->height());
+    if (format.topMargin() != margin) {
+        format.setTopMargin(margin);
+        root->setFrameFormat(format);
+    }
+    showBeginning();
+}
+
+void TextOutput::showBeginning()
+{
+    // A text that is larger than its item is cut, it does not scroll.
+    if (isEditing())
+        return;
+    m_editor->horizontalScrollBar()->setValue(0);
+    m_editor->verticalScrollBar()->setValue(0);
+}
+
+bool TextOutput::isEditing() const
+{
+    return !m_editor->isReadOnly();
+}
+
+void TextOutput::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    event->accept();
+    // What is not there to be seen would be lost by storing what is.
+    if (!isEditing() && m_isShownWhole && parentWidget())
+        startEditing();
+}
+
+void TextOutput::startEditing()
+{
+    parentWidget()->installEventFilter(this);
+    lodgeEditor(parentWidget());
+    m_editor->setFocusPolicy(Qt::StrongFocus);
+    m_editor->setFocus(Qt::OtherFocusReason);
+    m_editor->setReadOnly(false);
+    m_editor->moveCursor(QTextCursor::End);
+    m_editor->document()->setUndoRedoEnabled(true);
+    m_editor->document()->setModified(false);
+}
+
+void TextOutput::endEditing()
+{
+    if (!isEditing())
+        return;
+    m_values.insert(TextKeys::text(), m_editor->toHtml());
+    emit valueChanged(TextKeys::text(), m_values.value(TextKeys::text()));
+    parentWidget()->removeEventFilter(this);
+    lodgeEditor(this);
+    m_editor->resize(size());
+    m_editor->moveCursor(QTextCursor::End);
+    m_editor->setReadOnly(true);
+    m_editor->setFocusPolicy(Qt::NoFocus);
+    m_editor->document()->setUndoRedoEnabled(false);
+    // What was typed may need another margin above it.
+    format({TextKeys::aligment()});
+}
+
+void TextOutput::lodgeEditor(QWidget *parent)
+{
+    m_editor->setParent(parent);
+    m_editor->move(0, 0);
+    m_editor->show();
+}
+
+void TextOutput::tellEdit(bool isModified)
+{
+    auto *host = dynamic_cast<ContentHost *>(parentWidget());
+    if (host && isModified && isEditing())
+        host->contentEdited();
+}
+
+void TextOutput::commitEditing()
+{
+    QTextDocument *document = m_editor->document();
+    if (!isEditing() || !document->isModified())
+        return;
+    m_values.insert(TextKeys::text(), m_editor->toHtml());
+    document->setModified(false);
+}
+
+bool TextOutput::eventFilter(QObject *watched, QEvent *event)
+{
+    // The frame shall neither move nor change its size while the mouse selects text.
+    if (isEditing() && watched == parentWidget() && isMouseOfFrame(event->type()))
+        return true;
+    return ContentViewer::eventFilter(watched, event);
+}

@@ -1,0 +1,31 @@
+#include "viewers/textstyle.h"
+
+#include "model/namedcolor.h"
+#include "viewers/textkeys.h"
+
+#include <QBrush>
+#include <QFont>
+
+bool TextStyle::isStyle(const QString &key)
+{
+    return key == TextKeys::italic() || key == TextKeys::font() || key == TextKeys::underlined() ||
+           key == TextKeys::size() || key == TextKeys::bold() || key == TextKeys::color();
+}
+
+QTextCharFormat TextStyle::charFormat(const QString &key, const QVariant &value)
+{
+    QTextCharFormat format;
+    if (key == TextKeys::italic())
+        format.setFontItalic(value.toBool());
+    else if (key == TextKeys::font())
+        format.setFontFamily(value.toString());
+    else if (key == TextKeys::underlined())
+        format.setFontUnderline(value.toBool());
+    else if (key == TextKeys::size())
+        format.setFontPointSize(value.toInt());
+    else if (key == TextKeys::bold())
+        format.setFontWeight(value.toBool() ? QFont::Bold : QFont::Normal);
+    else if (key == TextKeys::color())
+        format.setForeground(namedColor(value.toString()));
+    return format;
+}
