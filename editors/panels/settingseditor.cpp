@@ -36,7 +36,6 @@ void SettingsEditor::addNameRow()
     row->addWidget(m_nameLabel);
     row->addWidget(m_nameEdit);
     m_layout->addLayout(row);
-    m_layout->setAlignment(row, Qt::AlignTop);
 }
 
 void SettingsEditor::showName(bool isShown)
@@ -47,7 +46,7 @@ void SettingsEditor::showName(bool isShown)
 
 void SettingsEditor::setActiveItem(ScreenItem *item)
 {
-    if (item == m_item && (item || !m_container))
+    if (item == m_item)
         return;
     dropContainer();
     m_item = item;
@@ -71,7 +70,7 @@ void SettingsEditor::followName(ScreenItem &item)
 void SettingsEditor::buildPanel(ScreenItem &item)
 {
     m_container = new QWidget(widget());
-    m_layout->addWidget(m_container, 1);
+    m_layout->addWidget(m_container);
     item.buildSettingsPanel(m_container);
     m_container->show();
 }
@@ -91,7 +90,6 @@ void SettingsEditor::dropContainer()
         return;
     QWidget *container = m_container;
     m_container = nullptr;
-    m_layout->removeWidget(container);
     container->hide();
     forgetItemOf(*container);
     // Not at once: the call may come out of one of its own editors.

@@ -10,6 +10,7 @@
 #include "editors/intedit.h"
 #include "editors/panels/settingseditor.h"
 #include "editors/propertypanel.h"
+#include "model/applicationstyle.h"
 #include "tests/canvas/boardfixture.h"
 #include "tests/editors/coloranswers.h"
 #include "tests/support/boards.h"
@@ -117,6 +118,15 @@ QSet<QString> keysIn(const PropertyPanel *panel, int category)
         keys << edit->getKey();
     return keys;
 }
+
+/// The application's style, except for the height of the letters in pixels.
+void applyStyleWithLetters(int height)
+{
+    applyApplicationStyle();
+    const QString sheet = qApp->styleSheet();
+    QVERIFY(sheet.contains("font-size: 12px"));
+    qApp->setStyleSheet(QString(sheet).replace("font-size: 12px", QString("font-size: %1px").arg(height)));
+}
 } // namespace
 
 class tst_ShapePanel : public QObject
@@ -125,6 +135,7 @@ class tst_ShapePanel : public QObject
 
 private slots:
     void initTestCase() { initAssets(); }
+    void cleanup() { qApp->setStyleSheet({}); }
 
     void hasAnEditorOfItsTypeForEveryParameter_data();
     void hasAnEditorOfItsTypeForEveryParameter();
@@ -160,6 +171,7 @@ private slots:
 
     void tabWalksFromTopToBottom();
     void iconsAreNamedForScreenReaders();
+    void isNotClippedInTheColumn_data();
     void isNotClippedInTheColumn();
 };
 
@@ -509,8 +521,21 @@ void tst_ShapePanel::iconsAreNamedForScreenReaders()
         QCOMPARE(open.part<QPushButton>(key)->accessibleName(), QString(key));
 }
 
+void tst_ShapePanel::isNotClippedInTheColumn_data()
+{
+    QTest::addColumn<int>("letters");
+
+    QTest::newRow("toolkit's own style") << 0;
+    QTest::newRow("application's style") << 12;
+    QTest::newRow("letters a third larger") << 16;
+    QTest::newRow("letters two thirds larger") << 20;
+}
+
 void tst_ShapePanel::isNotClippedInTheColumn()
 {
+    QFETCH(int, letters);
+    if (letters > 0)
+        applyStyleWithLetters(letters);
     OpenPanel open;
     SettingsEditor column;
     column.resize(320, 600);
@@ -521,8 +546,12 @@ void tst_ShapePanel::isNotClippedInTheColumn()
     const QRegion all = panel->viewport()->rect();
     const auto edits = panel->findChildren<VariableEdit *>();
     for (VariableEdit *edit : edits) {
-        const QRect place(edit->mapTo(panel->viewport(), QPoint()), edit->size());
-        QVERIFY2(QRegion(place).subtracted(all).isEmpty(), qPrintable(edit->getKey()));
+        const auto parts = edit->findChildren<QWidget *>();
+        for (const QWidget *part : parts) {
+            const QRect place(part->mapTo(panel->viewport(), QPoint()), part->size());
+            QVERIFY2(!part->isVisible() || QRegion(place).subtracted(all).isEmpty(),
+                     qPrintable(edit->getKey()));
+        }
     }
     const auto labels = panel->findChildren<QLabel *>();
     for (QLabel *label : labels) {
@@ -532,6 +561,9 @@ void tst_ShapePanel::isNotClippedInTheColumn()
     const auto boxes = panel->findChildren<QCheckBox *>();
     for (QCheckBox *box : boxes)
         QVERIFY2(box->width() >= box->sizeHint().width(), qPrintable(box->text()));
+    const auto headers = panel->findChildren<CategoryButton *>();
+    for (CategoryButton *header : headers)
+        QVERIFY(header->height() >= header->layout()->itemAt(0)->sizeHint().height());
 }
 
 BOARDWRIGHT_TEST_MAIN(tst_ShapePanel)

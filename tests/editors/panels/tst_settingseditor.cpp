@@ -49,6 +49,7 @@ private slots:
     void itemDeletedWithoutAPanelDoesNothing();
     void formerItemThatIsDeletedLeavesThePanelAlone();
     void formerItemThatIsGoingLeavesThePanelAlone();
+    void formerPanelIsOutOfSightAtOnce();
     void formerPanelHearsNothingMore();
     void switchingLeavesNothingBehind();
     void survivesDeletionWhileAnEditorHasTheFocus_data();
@@ -238,6 +239,9 @@ void tst_SettingsEditor::nameRowStandsAboveThePanel()
     QCOMPARE(label->buddy(), row->itemAt(1)->widget());
     QCOMPARE(row->itemAt(1)->widget(), desk.ofNameRow<QLineEdit>());
     QCOMPARE(column->itemAt(1)->widget(), desk.panel()->parentWidget());
+    QCoreApplication::processEvents();
+    QVERIFY(desk.ofNameRow<QLineEdit>()->y() < desk.ofNameRow<QLineEdit>()->height());
+    QVERIFY(desk.panel()->height() > desk.editor.height() / 2);
 }
 
 void tst_SettingsEditor::showsNothingAtFirst()
@@ -322,6 +326,8 @@ void tst_SettingsEditor::frameWithoutContentShowsItsName()
     item->activate();
     QCOMPARE(desk.shownName(), QString("Bare"));
     QVERIFY(!desk.panel());
+    QCoreApplication::processEvents();
+    QVERIFY(desk.ofNameRow<QLineEdit>()->y() < desk.ofNameRow<QLineEdit>()->height());
     delete item;
     QVERIFY(desk.isEmpty());
 }
@@ -448,6 +454,18 @@ void tst_SettingsEditor::formerItemThatIsGoingLeavesThePanelAlone()
     QCOMPARE(desk.shownName(), QString("Two"));
     QVERIFY(desk.panel());
     QCOMPARE(desk.number("X"), 200);
+}
+
+void tst_SettingsEditor::formerPanelIsOutOfSightAtOnce()
+{
+    Desk desk;
+    desk.addActive();
+    const QPointer<PropertyPanel> panel = desk.panel();
+    desk.addActive("Two");
+    QVERIFY(!panel || !panel->isVisible());
+    const QPointer<PropertyPanel> second = desk.panel();
+    desk.editor.setActiveItem(nullptr);
+    QVERIFY(!second || !second->isVisible());
 }
 
 void tst_SettingsEditor::formerPanelHearsNothingMore()
