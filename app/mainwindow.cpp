@@ -11,6 +11,8 @@
 #include "model/fontfamilies.h"
 #include "model/fontsubstitutions.h"
 #include "model/layoutfile.h"
+#include "toolbars/itemtypesdragbar.h"
+#include "toolbars/toolbarforscreenitem.h"
 
 #include <QApplication>
 #include <QDebug>
@@ -53,8 +55,10 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent)
     registerFontSubstitutions();
     setWindowTitle(tr("Boardwright"));
     buildMenus();
-    buildCentralArea();
-    buildDocks();
+    buildCanvas();
+    buildPanels();
+    connectPanels();
+    arrangeDocks();
 }
 
 QStringList MainWindow::fontFamilies()
@@ -93,43 +97,60 @@ QAction *MainWindow::addCommand(QMenu *menu, const QString &text, const QString 
     return action;
 }
 
-void MainWindow::buildCentralArea()
+void MainWindow::buildCanvas()
 {
     auto *central = new QWidget;
     setCentralWidget(central);
     m_screenContainer = new ScreenContainer(central);
+    m_settingsDock = new QDockWidget;
+    m_settingsDock->setMinimumWidth(250);
+    m_screenSettingsDock = new QDockWidget;
+    m_itemBarDock = new QDockWidget;
     m_screen = new Screen;
     m_screenContainer->setScreen(m_screen);
     m_screenContainer->setWidgetResizable(true);
     m_screenContainer->setHorizontalScrollBar(new QScrollBar(Qt::Horizontal));
     m_screenContainer->horizontalScrollBar()->setEnabled(true);
     m_screen->setFixedSize(800, 400);
-    auto *layout = new QVBoxLayout(central);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_screenContainer);
 }
 
-void MainWindow::buildDocks()
+void MainWindow::buildPanels()
 {
     m_settingsEditor = new SettingsEditor;
+    m_layerToolBar = new ToolBarForScreenItem(centralWidget());
+    auto *layout = new QVBoxLayout(centralWidget());
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_layerToolBar);
+    layout->addWidget(m_screenContainer);
+    m_layerToolBar->show();
     m_screenSettings = new ScreenSettings;
-    auto *settingsDock = new QDockWidget;
-    settingsDock->setMinimumWidth(250);
-    addFixedDock(settingsDock, Qt::RightDockWidgetArea, m_settingsEditor);
-    addFixedDock(new QDockWidget, Qt::BottomDockWidgetArea, m_screenSettings);
+    m_itemBar = new ItemTypesDragBar;
+    m_itemBar->addItemTypes(Screen::itemTypes());
+    m_settingsDock->setWidget(m_settingsEditor);
+    m_itemBarDock->setWidget(m_itemBar);
+    m_screenSettingsDock->setWidget(m_screenSettings);
+}
+
+void MainWindow::connectPanels()
+{
+    connect(m_itemBar, &ItemTypesDragBar::signalNewItem, m_screen, &Screen::newItem);
     connect(m_screen, &Screen::showSettingsFor, m_settingsEditor, &SettingsEditor::setActiveItem);
-    // The settings column runs down to the bottom edge.
+    m_layerToolBar->setScreen(m_screen);
+}
+
+void MainWindow::arrangeDocks()
+{
+    addDockWidget(Qt::RightDockWidgetArea, m_settingsDock);
+    addDockWidget(Qt::TopDockWidgetArea, m_itemBarDock);
+    addDockWidget(Qt::BottomDockWidgetArea, m_screenSettingsDock);
+    // The settings column runs down to the bottom edge; the item bar keeps the top right corner.
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
     m_screenSettings->setScreen(m_screen);
     m_screenSettings->updateFromScreen();
-}
-
-void MainWindow::addFixedDock(QDockWidget *dock, Qt::DockWidgetArea area, QWidget *panel)
-{
-    dock->setWidget(panel);
-    addDockWidget(area, dock);
-    dock->setTitleBarWidget(new QWidget);
-    dock->setFeatures(QDockWidget::NoDockWidgetFeatures);
+    for (QDockWidget *dock : {m_settingsDock, m_itemBarDock, m_screenSettingsDock}) {
+        dock->setTitleBarWidget(new QWidget);
+        dock->setFeatures(QDockWidget::NoDockWidgetFeatures);
+    }
 }
 
 void MainWindow::openFile(QString filePath)

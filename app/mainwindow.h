@@ -3,6 +3,7 @@
 #include <QMainWindow>
 #include <QStringList>
 
+class ItemTypesDragBar;
 class QAction;
 class QDockWidget;
 class QMenu;
@@ -10,8 +11,10 @@ class Screen;
 class ScreenContainer;
 class ScreenSettings;
 class SettingsEditor;
+class ToolBarForScreenItem;
 
-/// The editor's one window: the canvas in the middle, the menus and the file commands.
+/// The editor's one window: the canvas in the middle, the bars and panels around it, the menus and the file
+/// commands.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -46,9 +49,10 @@ protected slots:
 
 private:
     void buildMenus();
-    void buildCentralArea();
-    void buildDocks();
-    void addFixedDock(QDockWidget *dock, Qt::DockWidgetArea area, QWidget *panel);
+    void buildCanvas();
+    void buildPanels();
+    void connectPanels();
+    void arrangeDocks();
     QAction *addCommand(QMenu *menu, const QString &text, const QString &keys, void (MainWindow::*command)());
     QString askForLayoutToSave();
     void openEmptyLayout();
@@ -57,7 +61,12 @@ private:
     Screen *m_screen = nullptr;
     ScreenContainer *m_screenContainer = nullptr;
     SettingsEditor *m_settingsEditor = nullptr;
+    ToolBarForScreenItem *m_layerToolBar = nullptr;
     ScreenSettings *m_screenSettings = nullptr;
+    ItemTypesDragBar *m_itemBar = nullptr;
+    QDockWidget *m_settingsDock = nullptr;
+    QDockWidget *m_screenSettingsDock = nullptr;
+    QDockWidget *m_itemBarDock = nullptr;
     QAction *m_saveAction = nullptr;
     QString m_currentPath;
 };

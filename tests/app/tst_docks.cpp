@@ -8,12 +8,17 @@
 #include "editors/panels/settingseditor.h"
 #include "editors/propertypanel.h"
 #include "tests/app/commandtest.h"
+#include "toolbars/itemtypesdragbar.h"
+#include "toolbars/toolbarforscreenitem.h"
+#include "toolbars/toolbaritem.h"
 
+#include <QAbstractButton>
 #include <QDockWidget>
 #include <QLabel>
 #include <QLineEdit>
 #include <QScrollBar>
 #include <QSpinBox>
+#include <QVBoxLayout>
 
 // The docks of the window: where they lie, and how their panels and the canvas work together.
 class tst_Docks : public CommandTest
@@ -22,11 +27,19 @@ class tst_Docks : public CommandTest
 
 private slots:
     void hasOneDockForEachPanel();
-    void docksAreFixedAndShowNoTitle_data();
     void docksAreFixedAndShowNoTitle();
     void settingsDockTakesTheWidthOfItsColumn();
     void settingsColumnRunsTheFullHeight();
+    void itemBarLiesAlongTheTop();
     void screenSettingsLieBelowTheCanvas();
+    void layerToolBarLiesAboveTheCanvas();
+    void itemButtonsKeepTheirSize();
+    void canvasIsCentredAfterEveryResize_data();
+    void canvasIsCentredAfterEveryResize();
+    void clickInTheItemBarAddsAnItemAndShowsItsPanel();
+    void layerToolBarActsOnTheItemJustAdded();
+    void deletingByTheToolBarEmptiesThePanel();
+    void buttonsWithoutWordsHaveNames();
     void startsWithTheValuesOfTheCanvas();
     void clickOnAShapeShowsItsNameAndPanel();
     void clickOnTheBackgroundEmptiesThePanel();
@@ -44,11 +57,13 @@ private slots:
 private:
     SettingsEditor *column() const { return window().findChild<SettingsEditor *>(); }
     ScreenSettings *bar() const { return window().findChild<ScreenSettings *>(); }
+    ItemTypesDragBar *itemBar() const { return window().findChild<ItemTypesDragBar *>(); }
+    ToolBarForScreenItem *layerToolBar() const { return window().findChild<ToolBarForScreenItem *>(); }
+    ScreenContainer *container() const { return window().findChild<ScreenContainer *>(); }
     QDockWidget *dockOf(const QWidget *panel) const
     {
         return qobject_cast<QDockWidget *>(panel->parentWidget());
     }
-    QDockWidget *dock(bool ofColumn) const { return ofColumn ? dockOf(column()) : dockOf(bar()); }
 
     QLineEdit *nameEdit() const
     {
@@ -59,6 +74,9 @@ private:
     bool isEmpty() const;
     QRect inWindow(const QWidget *widget) const;
     void click(QPoint position, Qt::KeyboardModifiers modifiers = {}) const;
+    void clickOn(const QWidget *widget) const;
+    QAbstractButton *itemButton(const QString &type) const;
+    ToolBarItem *toolBarItem(const QString &tip) const;
     void open(const QJsonObject &document);
 };
 
@@ -95,6 +113,31 @@ void tst_Docks::click(QPoint position, Qt::KeyboardModifiers modifiers) const
                       canvas().mapTo(&window(), position));
 }
 
+void tst_Docks::clickOn(const QWidget *widget) const
+{
+    QTest::mouseClick(window().windowHandle(), Qt::LeftButton, {}, inWindow(widget).center());
+}
+
+QAbstractButton *tst_Docks::itemButton(const QString &type) const
+{
+    const QList<QAbstractButton *> buttons = itemBar()->findChildren<QAbstractButton *>();
+    for (QAbstractButton *button : buttons) {
+        if (button->accessibleName() == type)
+            return button;
+    }
+    return nullptr;
+}
+
+ToolBarItem *tst_Docks::toolBarItem(const QString &tip) const
+{
+    const QList<ToolBarItem *> items = layerToolBar()->findChildren<ToolBarItem *>();
+    for (ToolBarItem *item : items) {
+        if (item->toolTip() == tip)
+            return item;
+    }
+    return nullptr;
+}
+
 void tst_Docks::open(const QJsonObject &document)
 {
     writeFile(path("board.lay"), bytesOf(document));
@@ -103,34 +146,30 @@ void tst_Docks::open(const QJsonObject &document)
 
 void tst_Docks::hasOneDockForEachPanel()
 {
-    QVERIFY(dockOf(column()));
-    QVERIFY(dockOf(bar()));
+    QCOMPARE(window().findChildren<QDockWidget *>().size(), 3);
     QCOMPARE(dockOf(column())->widget(), column());
     QCOMPARE(dockOf(bar())->widget(), bar());
+    QCOMPARE(dockOf(itemBar())->widget(), itemBar());
     QCOMPARE(window().dockWidgetArea(dockOf(column())), Qt::RightDockWidgetArea);
     QCOMPARE(window().dockWidgetArea(dockOf(bar())), Qt::BottomDockWidgetArea);
+    QCOMPARE(window().dockWidgetArea(dockOf(itemBar())), Qt::TopDockWidgetArea);
     QCOMPARE(window().corner(Qt::BottomRightCorner), Qt::RightDockWidgetArea);
-}
-
-void tst_Docks::docksAreFixedAndShowNoTitle_data()
-{
-    QTest::addColumn<bool>("isColumn");
-    QTest::newRow("settings") << true;
-    QTest::newRow("screen settings") << false;
+    QCOMPARE(window().corner(Qt::TopRightCorner), Qt::TopDockWidgetArea);
 }
 
 void tst_Docks::docksAreFixedAndShowNoTitle()
 {
-    QFETCH(bool, isColumn);
-
-    const QDockWidget *fixed = dock(isColumn);
-    QCOMPARE(fixed->features(), QDockWidget::DockWidgetFeatures(QDockWidget::NoDockWidgetFeatures));
-    QVERIFY(fixed->titleBarWidget());
-    QCOMPARE(fixed->titleBarWidget()->metaObject()->className(), "QWidget");
-    QVERIFY(fixed->titleBarWidget()->children().isEmpty());
-    QCOMPARE(fixed->windowTitle(), QString());
-    QVERIFY(fixed->isVisible());
-    QVERIFY(!fixed->isFloating());
+    const QList<QDockWidget *> docks = window().findChildren<QDockWidget *>();
+    for (const QDockWidget *fixed : docks) {
+        QCOMPARE(fixed->features(), QDockWidget::DockWidgetFeatures(QDockWidget::NoDockWidgetFeatures));
+        QVERIFY(fixed->titleBarWidget());
+        QCOMPARE(fixed->titleBarWidget()->metaObject()->className(), "QWidget");
+        QVERIFY(fixed->titleBarWidget()->children().isEmpty());
+        QCOMPARE(fixed->titleBarWidget()->height(), 0);
+        QCOMPARE(fixed->windowTitle(), QString());
+        QVERIFY(fixed->isVisible());
+        QVERIFY(!fixed->isFloating());
+    }
 }
 
 void tst_Docks::settingsDockTakesTheWidthOfItsColumn()
@@ -143,9 +182,20 @@ void tst_Docks::settingsDockTakesTheWidthOfItsColumn()
 void tst_Docks::settingsColumnRunsTheFullHeight()
 {
     const QRect settings = inWindow(dockOf(column()));
-    QCOMPARE(settings.top(), window().menuBar()->height());
+    const QRect items = inWindow(dockOf(itemBar()));
+    // Nothing but the line between two docks lies above it, and nothing below.
+    QVERIFY(settings.top() > items.bottom());
+    QVERIFY(settings.top() <= items.bottom() + 10);
     QCOMPARE(settings.bottom(), window().rect().bottom());
     QCOMPARE(settings.right(), window().rect().right());
+}
+
+void tst_Docks::itemBarLiesAlongTheTop()
+{
+    const QRect items = inWindow(dockOf(itemBar()));
+    QCOMPARE(items.top(), window().menuBar()->height());
+    QCOMPARE(items.left(), 0);
+    QCOMPARE(items.right(), window().rect().right());
 }
 
 void tst_Docks::screenSettingsLieBelowTheCanvas()
@@ -155,6 +205,106 @@ void tst_Docks::screenSettingsLieBelowTheCanvas()
     QCOMPARE(settings.bottom(), window().rect().bottom());
     QVERIFY(settings.right() < inWindow(dockOf(column())).left());
     QVERIFY(settings.top() > inWindow(window().centralWidget()).bottom());
+}
+
+void tst_Docks::layerToolBarLiesAboveTheCanvas()
+{
+    const auto *layout = qobject_cast<QVBoxLayout *>(window().centralWidget()->layout());
+    QVERIFY(layout);
+    QCOMPARE(layout->contentsMargins(), QMargins(0, 0, 0, 0));
+    QCOMPARE(layout->count(), 2);
+    QCOMPARE(layout->itemAt(0)->widget(), layerToolBar());
+    QCOMPARE(layout->itemAt(1)->widget(), container());
+    QVERIFY(layerToolBar()->isVisible());
+    QCOMPARE(layerToolBar()->pos(), QPoint(0, 0));
+    QCOMPARE(layerToolBar()->size(), QSize(window().centralWidget()->width(), 30));
+    QVERIFY(inWindow(layerToolBar()).top() > inWindow(itemBar()).bottom());
+}
+
+void tst_Docks::itemButtonsKeepTheirSize()
+{
+    for (const QSize size : {QSize(1000, 700), QSize(1600, 1000), QSize(1, 1)}) {
+        window().resize(size);
+        QCoreApplication::processEvents();
+        const QList<QAbstractButton *> buttons = itemBar()->findChildren<QAbstractButton *>();
+        QVERIFY(!buttons.isEmpty());
+        for (const QAbstractButton *button : buttons)
+            QCOMPARE(button->size(), QSize(50, 50));
+    }
+}
+
+void tst_Docks::canvasIsCentredAfterEveryResize_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("room for the canvas") << QSize(1366, 768);
+    QTest::newRow("more room") << QSize(1920, 1080);
+    QTest::newRow("odd lengths") << QSize(1501, 901);
+    QTest::newRow("bars at the bottom and right") << QSize(900, 500);
+}
+
+void tst_Docks::canvasIsCentredAfterEveryResize()
+{
+    QFETCH(QSize, size);
+
+    window().resize(size);
+    QTRY_COMPARE(window().size(), size);
+    const QSize rest = container()->viewport()->size() - QSize(800, 400);
+    const auto place = [](int free) {
+        return free >= 0 ? free / 2 : -(-free / 2);
+    };
+    const QPoint expected(place(rest.width()), place(rest.height()));
+    QTRY_COMPARE(canvas().mapTo(container()->viewport(), QPoint(0, 0)), expected);
+}
+
+void tst_Docks::clickInTheItemBarAddsAnItemAndShowsItsPanel()
+{
+    clickOn(itemButton("Shape"));
+    QCOMPARE(canvas().items().size(), 1);
+    QCOMPARE(canvas().items().first()->geometry(), QRect(0, 0, 100, 50));
+    QCOMPARE(nameEdit()->text(), QString("Shape 0"));
+    QCOMPARE(edit("W")->getValue().toInt(), 100);
+    QVERIFY(canvas().isModified());
+    clickOn(itemButton("Shape"));
+    QCOMPARE(nameEdit()->text(), QString("Shape 1"));
+    QCOMPARE(canvas().selection(), QList<ScreenItem *>({canvas().items().last()}));
+}
+
+void tst_Docks::layerToolBarActsOnTheItemJustAdded()
+{
+    clickOn(itemButton("Shape"));
+    clickOn(toolBarItem("Align Right"));
+    clickOn(toolBarItem("Fit the Screen Vertically"));
+    QCOMPARE(canvas().items().first()->geometry(), QRect(700, 0, 100, 400));
+    QCOMPARE(edit("X")->getValue().toInt(), 700);
+    QCOMPARE(edit("H")->getValue().toInt(), 400);
+    QTest::keyClick(window().windowHandle(), Qt::Key_Left, Qt::ControlModifier);
+    QCOMPARE(canvas().items().first()->x(), 699);
+}
+
+void tst_Docks::deletingByTheToolBarEmptiesThePanel()
+{
+    openSmallBoard();
+    click({15, 15});
+    QVERIFY(!isEmpty());
+    clickOn(toolBarItem("Delete"));
+    QTRY_COMPARE(canvas().items().size(), 1);
+    QVERIFY(isEmpty());
+    QVERIFY(canvas().isModified());
+}
+
+void tst_Docks::buttonsWithoutWordsHaveNames()
+{
+    openSmallBoard();
+    click({15, 15});
+    const QList<QAbstractButton *> buttons = window().findChildren<QAbstractButton *>();
+    for (const QAbstractButton *button : buttons) {
+        if (button->isVisible() && button->text().isEmpty())
+            QVERIFY2(!button->accessibleName().isEmpty(), button->metaObject()->className());
+    }
+    const QList<ToolBarItem *> items = layerToolBar()->findChildren<ToolBarItem *>();
+    QCOMPARE(items.size(), 15);
+    for (const ToolBarItem *item : items)
+        QCOMPARE(item->accessibleName(), item->toolTip());
 }
 
 void tst_Docks::startsWithTheValuesOfTheCanvas()
