@@ -31,7 +31,9 @@ void sendHeldGeometryEvents(QWidget *widget)
     // The handler of a resize may resize once more, which is held back again.
     while (widget->testAttribute(Qt::WA_PendingResizeEvent)) {
         widget->setAttribute(Qt::WA_PendingResizeEvent, false);
-        QResizeEvent event(widget->size(), widget->size());
+        // No former size, as when the toolkit delivers it: the text editor lays out anew only for another
+        // width.
+        QResizeEvent event(widget->size(), QSize());
         QCoreApplication::sendEvent(widget, &event);
     }
 }

@@ -3,13 +3,56 @@
 #include "viewers/richtext.h"
 
 #include <QApplication>
+#include <QBuffer>
 #include <QContextMenuEvent>
+#include <QImageReader>
 #include <QMenu>
 #include <QMimeData>
+#include <QUrl>
 
 #include <memory>
 
+namespace
+{
+constexpr qint64 maximumArea = 4 * 1024 * 1024; // pixels of one picture
+
+/// Not null: for a picture that is null the toolkit would look into files by itself.
+QImage leftOut()
+{
+    QImage image(1, 1, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    return image;
+}
+
+/// The bytes in a "data:" address; empty when they are not written in base 64.
+QByteArray carriedBytes(const QUrl &address)
+{
+    const QByteArray data = address.toString(QUrl::RemoveScheme | QUrl::FullyDecoded).toLatin1();
+    const int comma = data.indexOf(',');
+    return comma > 0 && data.left(comma).endsWith(";base64") ? QByteArray::fromBase64(data.mid(comma + 1))
+                                                             : QByteArray();
+}
+
+QImage carriedImage(const QUrl &address)
+{
+    QByteArray bytes = carriedBytes(address);
+    QBuffer buffer(&bytes);
+    QImageReader reader(&buffer);
+    const QSize size = reader.size();
+    const bool isBounded = size.isValid() && qint64(size.width()) * size.height() <= maximumArea;
+    return isBounded ? reader.read() : QImage();
+}
+} // namespace
+
 CustomTextEditor::CustomTextEditor(QWidget *parent) : QTextEdit(parent) {}
+
+QVariant CustomTextEditor::loadResource(int type, const QUrl &name)
+{
+    if (type != QTextDocument::ImageResource)
+        return QByteArray("");
+    const QImage image = name.scheme() == QLatin1String("data") ? carriedImage(name) : QImage();
+    return image.isNull() ? leftOut() : image;
+}
 
 void CustomTextEditor::contextMenuEvent(QContextMenuEvent *event)
 {

@@ -3,13 +3,17 @@
 #include <QTextEdit>
 
 /// The editor inside a text item. A class of its own, so that the style sheet can address it; otherwise the
-/// toolkit's, but for what a clipboard may bring and for the look of its context menu.
+/// toolkit's, but for what files and clipboard may bring and for the look of its context menu.
 class CustomTextEditor : public QTextEdit
 {
     Q_OBJECT
 
 public:
     explicit CustomTextEditor(QWidget *parent = nullptr);
+
+    /// Reaches for nothing outside: pictures that the HTML carries with it are shown, those that it only
+    /// names (on a server, in a file) are left out, and so are style sheets.
+    QVariant loadResource(int type, const QUrl &name) override;
 
 protected:
     void contextMenuEvent(QContextMenuEvent *event) override;

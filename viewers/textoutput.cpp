@@ -6,7 +6,6 @@
 #include "viewers/customtexteditor.h"
 #include "viewers/datafields.h"
 #include "viewers/richtext.h"
-#include "viewers/textdocument.h"
 #include "viewers/textkeys.h"
 #include "viewers/textpanel.h"
 #include "viewers/textstyle.h"
@@ -57,25 +56,23 @@ TextOutput::TextOutput(QWidget *parent) : ContentViewer(parent)
     m_values.insert(TextKeys::bold(), false);
     m_values.insert(TextKeys::italic(), false);
     buildEditor();
-    showText();
-    format(everyFormat());
+    dressText();
 }
 
 void TextOutput::buildEditor()
 {
     m_editor = new CustomTextEditor(this);
-    auto *document = new TextDocument(m_editor);
-    // What the program does to a text is nothing for the user to undo.
-    document->setUndoRedoEnabled(false);
-    m_editor->setDocument(document);
+    m_editor->move(0, 0);
     m_editor->setFrameShape(QFrame::NoFrame);
     m_editor->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_editor->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_editor->setFocusPolicy(Qt::NoFocus);
     m_editor->setReadOnly(true);
     m_editor->setAcceptRichText(true);
-    lodgeEditor(this);
-    connect(document, &QTextDocument::modificationChanged, this, &TextOutput::tellEdit);
+    // What the program does to a text is nothing for the user to undo.
+    m_editor->document()->setUndoRedoEnabled(false);
+    m_editor->show();
+    connect(m_editor->document(), &QTextDocument::modificationChanged, this, &TextOutput::tellEdit);
 }
 
 QVector<QPair<QString, ContentViewer::Parameters::ValueType>> TextOutput::getValueNameTypeDefinition()
@@ -126,7 +123,7 @@ void TextOutput::setAlignment(int code)
     m_vertical = code % 10;
     m_horizontal = code - m_vertical;
     announceAlignment();
-    format({TextKeys::aligment()});
+    format(TextKeys::aligment());
     update();
 }
 
@@ -151,7 +148,7 @@ void TextOutput::press(const TextAlignment::Button &button)
     (isVertical ? m_vertical : m_horizontal) = button.part;
     m_values.insert(TextKeys::alignment(), m_horizontal + m_vertical);
     update();
-    format({TextKeys::aligment()});
+    format(TextKeys::aligment());
 }
 
 bool TextOutput::isPressed(const TextAlignment::Button &button) const
@@ -165,7 +162,7 @@ void TextOutput::setText(const QVariant &text)
     emit valueChanged(TextKeys::text(), text);
     showText();
     update();
-    format({TextKeys::aligment()});
+    format(TextKeys::aligment());
 }
 
 void TextOutput::store(const QString &key, const QVariant &value)
@@ -173,7 +170,7 @@ void TextOutput::store(const QString &key, const QVariant &value)
     // Also the key of a button that is pressed already: on purpose.
     m_values.insert(key, value);
     if (TextStyle::isStyle(key))
-        format({key});
+        format(key);
     anyValueChanged();
     update();
 }
@@ -228,7 +225,9 @@ void TextOutput::resizeEvent(QResizeEvent *event)
     // Dressed first: its sheet decides about its margins.
     m_editor->ensurePolished();
     resizeNow(m_editor, size());
-    format({TextKeys::aligment()});
+    // The toolkit's editor lays its text out when the area inside it is told its size.
+    sendHeldGeometryEvents(m_editor->viewport());
+    format(TextKeys::aligment());
 }
 
 void TextOutput::beginReading()
@@ -241,8 +240,18 @@ void TextOutput::endReading()
     if (!m_isReading)
         return;
     m_isReading = false;
+    dressText();
+}
+
+void TextOutput::dressText()
+{
+    // In one step, so that the text is laid out once.
+    QTextCursor step(m_editor->document());
+    step.beginEditBlock();
     showText();
-    format(everyFormat());
+    applyFormat(everyFormat());
+    step.endEditBlock();
+    finishFormat();
 }
 
 void TextOutput::showText()
@@ -257,10 +266,16 @@ void TextOutput::showText()
         m_editor->document()->setPlainText(RichText::excerpt(html));
 }
 
-void TextOutput::format(const QStringList &keys)
+void TextOutput::format(const QString &key)
 {
     if (m_isReading)
         return;
+    applyFormat({key});
+    finishFormat();
+}
+
+void TextOutput::applyFormat(const QStringList &keys)
+{
     QTextCursor cursor = m_editor->textCursor();
     if (!isEditing())
         cursor.select(QTextCursor::Document);
@@ -271,10 +286,20 @@ void TextOutput::format(const QStringList &keys)
         cursor.mergeCharFormat(style);
     if (keys.contains(TextKeys::aligment()))
         alignParagraphs(cursor);
+    if (isEditing())
+        m_editor->setTextCursor(cursor);
+}
+
+void TextOutput::finishFormat()
+{
     m_editor->show();
-    if (!isEditing())
+    if (!isEditing()) {
+        // Four characters before the end of what was formatted: on purpose.
+        QTextCursor cursor = m_editor->textCursor();
+        cursor.movePosition(QTextCursor::End);
         cursor.movePosition(QTextCursor::Left, QTextCursor::MoveAnchor, cursorStep);
-    m_editor->setTextCursor(cursor);
+        m_editor->setTextCursor(cursor);
+    }
     disconnect(m_editor, &QTextEdit::textChanged, this, nullptr);
     placeText();
 }
@@ -380,7 +405,7 @@ void TextOutput::endEditing()
     m_editor->setFocusPolicy(Qt::NoFocus);
     m_editor->document()->setUndoRedoEnabled(false);
     // What was typed may need another margin above it.
-    format({TextKeys::aligment()});
+    format(TextKeys::aligment());
 }
 
 void TextOutput::lodgeEditor(QWidget *parent)

@@ -62,7 +62,10 @@ private:
     void setText(const QVariant &text);
     void store(const QString &key, const QVariant &value);
     void showText();
-    void format(const QStringList &keys);
+    void dressText();
+    void format(const QString &key);
+    void applyFormat(const QStringList &keys);
+    void finishFormat();
     void alignParagraphs(QTextCursor &cursor) const;
     void placeText();
     void setTopMargin(int (*marginFor)(int, int));

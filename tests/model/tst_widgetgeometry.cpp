@@ -17,6 +17,7 @@ public:
     using QWidget::QWidget;
 
     QStringList heard;
+    QSize formerSize;
     std::function<void(Listener &)> onResize;
 
 protected:
@@ -26,6 +27,7 @@ protected:
     }
     void resizeEvent(QResizeEvent *event) override
     {
+        formerSize = event->oldSize();
         heard << QStringLiteral("%1x%2").arg(event->size().width()).arg(event->size().height());
         if (onResize)
             onResize(*this);
@@ -49,6 +51,7 @@ private slots:
     void deliversWhatAHandlerResizesAgain();
     void endsWhenAHandlerResizesToTheSameSize();
     void deliversHeldEventsOnceAndOnlyThose();
+    void tellsNoFormerSize();
 
 private:
     void showParent();
@@ -150,6 +153,13 @@ void tst_WidgetGeometry::deliversHeldEventsOnceAndOnlyThose()
     QCOMPARE(m_widget->heard, QStringList({"at 9,9"}));
     sendHeldGeometryEvents(m_widget);
     QCOMPARE(m_widget->heard, QStringList({"at 9,9"}));
+}
+
+void tst_WidgetGeometry::tellsNoFormerSize()
+{
+    m_widget->formerSize = QSize(30, 40);
+    resizeNow(m_widget, QSize(50, 60));
+    QVERIFY(!m_widget->formerSize.isValid());
 }
 
 BOARDWRIGHT_TEST_MAIN(tst_WidgetGeometry)
