@@ -1,4 +1,5 @@
 #include "app/mainwindow.h"
+#include "update/startenvironment.h"
 
 #include <QApplication>
 #include <QDebug>
@@ -6,8 +7,9 @@
 
 int main(int argc, char *argv[])
 {
+    startEnvironment();
     // Nothing here draws with OpenGL; leaving it out halves the start-up work on X11. The platform asks for
-    // this late, so it cannot be taken back for programs started from here.
+    // this late, so it cannot be taken back.
     if (!qEnvironmentVariableIsSet("QT_XCB_GL_INTEGRATION"))
         qputenv("QT_XCB_GL_INTEGRATION", "none");
     QApplication application(argc, argv);

@@ -13,6 +13,7 @@
 #include "model/layoutfile.h"
 #include "toolbars/itemtypesdragbar.h"
 #include "toolbars/toolbarforscreenitem.h"
+#include "update/updatemagaer.h"
 
 #include <QApplication>
 #include <QDebug>
@@ -248,4 +249,10 @@ void MainWindow::exitActionTriggered()
     QCoreApplication::quit();
 }
 
-void MainWindow::getUpdatesActionTrggered() {}
+void MainWindow::getUpdatesActionTrggered()
+{
+    // Never deleted: its download and the boxes of that outlive this call.
+    auto *updates = new UpdateMagaer;
+    if (updates->check())
+        updates->download();
+}
