@@ -1,10 +1,13 @@
-// bench-floor WORK ITEMS|WIDTH [MOVED|HEIGHT]: the work of bench-product done with bare widgets and no more.
+// bench-floor WORK NUMBER [NUMBER]: the work of bench-product done with bare widgets and no more.
 #include "assets/assets.h"
 #include "bench/board.h"
 #include "bench/floorcanvas.h"
+#include "bench/floorcolumn.h"
 #include "bench/measure.h"
+#include "bench/works.h"
 
 #include <QApplication>
+#include <QDockWidget>
 #include <QFile>
 #include <QImage>
 #include <QJsonArray>
@@ -49,7 +52,7 @@ QJsonObject read(const QString &path)
     return file.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(file.readAll()).object() : QJsonObject();
 }
 
-void open(int items)
+void open(int items, int)
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("board.lay"));
@@ -58,7 +61,7 @@ void open(int items)
     report("cpu", cpuOf([&] { window.canvas().load(read(path)); }));
 }
 
-void save(int items)
+void save(int items, int)
 {
     const QTemporaryDir folder;
     Window window;
@@ -125,8 +128,9 @@ private:
     QVector<QPoint> m_points;
 };
 
-void grid(QSize size)
+void grid(int width, int height)
 {
+    const QSize size(width, height);
     const QRect exposed(200, 200, 60, 60);
     QScrollArea area;
     auto *canvas = new GridCanvas(exposed);
@@ -138,7 +142,7 @@ void grid(QSize size)
     report("cpu", cpuPerTurn(2000, [&](int) { canvas->repaint(exposed); }));
 }
 
-void deletion(int items)
+void deletion(int items, int)
 {
     Window window;
     window.canvas().load(BenchBoard::layout(items, QSize(800, 400)));
@@ -146,8 +150,9 @@ void deletion(int items)
     report("cpu", cpuOf([&] { window.canvas().deleteItems(); }));
 }
 
-void exportPicture(QSize size)
+void exportPicture(int width, int height)
 {
+    const QSize size(width, height);
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("board.png"));
     Window window;
@@ -160,23 +165,33 @@ void exportPicture(QSize size)
            }));
 }
 
-int run(const QString &work, int first, int second)
+/// A column in a dock of the window, as in the editor.
+FloorColumn *addColumn(Window &window)
 {
-    if (work == QLatin1String("open"))
-        open(first);
-    else if (work == QLatin1String("save"))
-        save(first);
-    else if (work == QLatin1String("drag"))
-        drag(first, second);
-    else if (work == QLatin1String("grid"))
-        grid(QSize(first, second));
-    else if (work == QLatin1String("delete"))
-        deletion(first);
-    else if (work == QLatin1String("export"))
-        exportPicture(QSize(first, second));
-    else
-        return EXIT_FAILURE;
-    return EXIT_SUCCESS;
+    auto *dock = new QDockWidget;
+    auto *column = new FloorColumn;
+    dock->setWidget(column);
+    window.addDockWidget(Qt::RightDockWidgetArea, dock);
+    settle();
+    return column;
+}
+
+void buildPanel(int, int)
+{
+    Window window;
+    FloorColumn *column = addColumn(window);
+    report("cpu", cpuOfUndone(
+                      40, [column] { column->buildPanel(); }, [column] { column->dropPanel(); }));
+}
+
+void switchItems(int, int)
+{
+    Window window;
+    FloorColumn *column = addColumn(window);
+    reportThousand([column](int) {
+        column->dropPanel();
+        column->buildPanel();
+    });
 }
 } // namespace
 
@@ -187,6 +202,12 @@ int main(int argc, char *argv[])
     QFile sheet(QStringLiteral(":/assets/style/style.qss"));
     if (sheet.open(QIODevice::ReadOnly))
         application.setStyleSheet(QString::fromLatin1(sheet.readAll()));
-    const QStringList arguments = QCoreApplication::arguments();
-    return run(arguments.value(1), arguments.value(2).toInt(), arguments.value(3).toInt());
+    return runWork({{"open", open},
+                    {"save", save},
+                    {"drag", drag},
+                    {"grid", grid},
+                    {"delete", deletion},
+                    {"export", exportPicture},
+                    {"panel", buildPanel},
+                    {"switch", switchItems}});
 }

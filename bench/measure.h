@@ -2,26 +2,49 @@
 
 #include <QVector>
 
+#include <functional>
+
 /// CPU time that this process has used so far, in milliseconds.
 double cpuMilliseconds();
 
 /// The middle value; 0 of no values.
 double medianOf(QVector<double> values);
 
-/// Runs the event loop until everything posted is delivered and painted.
-void settle();
+/// Memory of this process that is resident, in MiB.
+double residentMemory();
+
+/// Runs the event loop until everything posted is delivered and painted: as long as nothing is waited for,
+/// the shortest wait does.
+void settle(int milliseconds = 30);
+
+/// Does something a thousand times, each time to painted: prints "first" and "last", the CPU milliseconds of
+/// the first hundred and of the last, and "grown", the resident MiB of the last hundred beyond the first.
+void reportThousand(const std::function<void(int turn)> &work);
 
 /// Prints "name value" for boardwright-bench to read.
 void report(const char *name, double value);
 
 /// CPU milliseconds that the work takes, the painting that it causes included.
 template <typename Work>
-double cpuOf(Work work)
+double cpuOf(Work work, int milliseconds = 30)
 {
     const double before = cpuMilliseconds();
     work();
-    settle();
+    settle(milliseconds);
     return cpuMilliseconds() - before;
+}
+
+/// CPU milliseconds, the median of many turns, that the work takes to painted when it is undone after each.
+template <typename Work, typename Undo>
+double cpuOfUndone(int turns, Work work, Undo undo)
+{
+    QVector<double> times;
+    for (int turn = 0; turn < turns; ++turn) {
+        times.append(cpuOf(work, 0));
+        undo();
+        settle(0);
+    }
+    return medianOf(times);
 }
 
 /// CPU milliseconds of one of many synchronous repetitions; the work is told the number of its turn.

@@ -1,8 +1,9 @@
-// bench-product WORK ITEMS|WIDTH [MOVED|HEIGHT]: one piece of the editor's work, in its main window.
-#include "app/mainwindow.h"
+// bench-product WORK NUMBER [NUMBER]: one piece of the editor's work, in its main window.
 #include "assets/assets.h"
-#include "bench/board.h"
 #include "bench/measure.h"
+#include "bench/panelworks.h"
+#include "bench/session.h"
+#include "bench/works.h"
 #include "canvas/screen.h"
 #include "canvas/screenitem.h"
 #include "canvas/screenpicture.h"
@@ -15,48 +16,7 @@
 
 namespace
 {
-/// Counts the paints of a widget.
-class PaintCounter : public QObject
-{
-public:
-    int paints() const { return m_paints; }
-
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        if (event->type() == QEvent::Paint)
-            ++m_paints;
-        return QObject::eventFilter(watched, event);
-    }
-
-private:
-    int m_paints = 0;
-};
-
-/// The editor, painted and quiet, beside a board in a file.
-class Session
-{
-public:
-    Session(int items, QSize canvas) : m_path(m_folder.filePath(QStringLiteral("board.lay")))
-    {
-        BenchBoard::write(m_path, items, canvas);
-        m_window.resize(1000, 600);
-        m_window.show();
-        QApplication::setActiveWindow(&m_window);
-        settle();
-    }
-    Screen &screen() { return *m_window.canvas(); }
-    QString file(const QString &name) const { return m_folder.filePath(name); }
-    void open() { m_window.openFile(m_path); }
-    void save(const QString &path) { m_window.saveFile(path); }
-
-private:
-    QTemporaryDir m_folder;
-    QString m_path;
-    MainWindow m_window;
-};
-
-void open(int items)
+void open(int items, int)
 {
     Session session(items, QSize(800, 400));
     report("cpu", cpuOf([&] { session.open(); }));
@@ -64,7 +24,7 @@ void open(int items)
         qFatal("not every item was made");
 }
 
-void save(int items)
+void save(int items, int)
 {
     Session session(items, QSize(800, 400));
     session.open();
@@ -77,10 +37,7 @@ void save(int items)
 
 void sendMouse(QWidget *frame, QEvent::Type type, QPoint local, Qt::MouseButtons buttons)
 {
-    const Qt::MouseButton button = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
-    QMouseEvent event(type, local, frame->mapTo(frame->window(), local), frame->mapToGlobal(local), button,
-                      buttons, Qt::NoModifier);
-    QCoreApplication::sendEvent(frame, &event);
+    QCoreApplication::sendEvent(frame, mouseEvent(*frame, type, local, buttons).get());
 }
 
 /// Selects so many frames and takes the first of them by its middle.
@@ -118,8 +75,9 @@ void drag(int items, int moved)
     report("repaint", cpuPerTurn(10, [&](int) { session.screen().repaint(); }));
 }
 
-void grid(QSize size)
+void grid(int width, int height)
 {
+    const QSize size(width, height);
     Session session(0, size);
     session.open();
     settle();
@@ -132,7 +90,7 @@ void grid(QSize size)
         qFatal("nothing was painted");
 }
 
-void deletion(int items)
+void deletion(int items, int)
 {
     Session session(items, QSize(800, 400));
     session.open();
@@ -148,8 +106,9 @@ void deletion(int items)
         qFatal("not every item was deleted");
 }
 
-void exportPicture(QSize size)
+void exportPicture(int width, int height)
 {
+    const QSize size(width, height);
     Session session(1000, size);
     session.open();
     settle();
@@ -157,30 +116,19 @@ void exportPicture(QSize size)
     report("cpu", cpuPerTurn(3, [&](int) { pictureOf(session.screen()).save(path); }));
 }
 
-int run(const QString &work, int first, int second)
-{
-    if (work == QLatin1String("open"))
-        open(first);
-    else if (work == QLatin1String("save"))
-        save(first);
-    else if (work == QLatin1String("drag"))
-        drag(first, second);
-    else if (work == QLatin1String("grid"))
-        grid(QSize(first, second));
-    else if (work == QLatin1String("delete"))
-        deletion(first);
-    else if (work == QLatin1String("export"))
-        exportPicture(QSize(first, second));
-    else
-        return EXIT_FAILURE;
-    return EXIT_SUCCESS;
-}
 } // namespace
 
 int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);
     initAssets();
-    const QStringList arguments = QCoreApplication::arguments();
-    return run(arguments.value(1), arguments.value(2).toInt(), arguments.value(3).toInt());
+    return runWork({{"open", open},
+                    {"save", save},
+                    {"drag", drag},
+                    {"grid", grid},
+                    {"delete", deletion},
+                    {"export", exportPicture},
+                    {"panel", buildPanel},
+                    {"switch", switchItems},
+                    {"edit", editInSpinBox}});
 }

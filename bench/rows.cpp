@@ -27,6 +27,7 @@ public:
     void addStart();
     void addEditing();
     void addDrag();
+    void addPanel();
     void addExport();
     void addRenderer();
 
@@ -171,6 +172,19 @@ void RowList::addDrag()
            0.1);
 }
 
+void RowList::addPanel()
+{
+    compare(13, QStringLiteral("panel of a shape"), {QStringLiteral("panel"), QStringLiteral("1000")}, 2);
+    const QStringList words = {QStringLiteral("switch"), QStringLiteral("1000")};
+    ratio(13, QStringLiteral("1000 switches, last 100 against first"),
+          inProcess("bench-product", words, "last"), inProcess("bench-product", words, "first"), 1.05);
+    ratio(13, QStringLiteral("1000 switches, memory grown"), inProcess("bench-product", words, "grown"),
+          inProcess("bench-floor", words, "grown"), 1.25);
+    const QStringList edit = {QStringLiteral("edit"), QStringLiteral("1000")};
+    ratio(13, QStringLiteral("step in a spin box, against what it may"), inProcess("bench-product", edit),
+          inProcess("bench-product", edit, "allowed"), 1);
+}
+
 void RowList::addExport()
 {
     const auto words = [](QSize size) {
@@ -203,6 +217,7 @@ QVector<Row> benchRows(const QString &programs, const QString &workFolder)
     RowList list(programs, workFolder);
     list.addStart();
     list.addEditing();
+    list.addPanel();
     list.addExport();
     list.addRenderer();
     return list.take();
