@@ -10,6 +10,7 @@
 #include "model/pixels.h"
 #include "model/widgetgeometry.h"
 #include "viewers/contentfactory.h"
+#include "viewers/mediaviewer.h"
 
 #include <QDebug>
 #include <QDragEnterEvent>
@@ -18,6 +19,7 @@
 #include <QMimeData>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QShortcut>
 
 #include <algorithm>
@@ -360,8 +362,13 @@ void Screen::newItem(QString name)
     ScreenItem *item = newFrame(QPoint(0, 0));
     const QString prefix = ContentFactory::namePrefix(name);
     item->setMyName(prefix + QLatin1Char(' ') + QString::number(m_nameCounters[prefix]++));
-    ContentFactory::create(name, item);
-    item->activate();
+    auto *media = qobject_cast<MediaViewer *>(ContentFactory::create(name, item));
+    // The item may be gone when the dialog closes.
+    const QPointer<ScreenItem> guard(item);
+    if (media)
+        media->chooseFile();
+    if (guard)
+        guard->activate();
 }
 
 ScreenItem *Screen::newFrame(QPoint position)

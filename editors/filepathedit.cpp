@@ -1,9 +1,9 @@
 #include "editors/filepathedit.h"
 
-#include <QFileDialog>
+#include "editors/fileselection.h"
+
 #include <QLayout>
 #include <QLineEdit>
-#include <QPointer>
 #include <QPushButton>
 
 FilePathEdit::FilePathEdit(QWidget *parent) : LineValueEdit("FilePathEdit", parent)
@@ -21,15 +21,9 @@ int FilePathEdit::getType()
 
 void FilePathEdit::selectFileButtonClicked(bool)
 {
-    // A child, not the static function's dialog on the stack: it goes with an editor that is deleted
-    // meanwhile.
-    const QPointer<QFileDialog> dialog = new QFileDialog(this, tr("Select any file..."));
-    dialog->setFileMode(QFileDialog::ExistingFile);
-    const bool isChosen = dialog->exec() == QDialog::Accepted;
-    if (!dialog)
+    const std::optional<QString> path = selectFile(this);
+    if (!path)
         return;
-    const QString path = isChosen ? dialog->selectedFiles().value(0) : QString();
-    delete dialog.data();
     // Written in any case: a cancelled dialog is to clear the path.
-    lineEdit()->setText(path);
+    lineEdit()->setText(*path);
 }

@@ -1,5 +1,7 @@
 #include "viewers/contentfactory.h"
 
+#include "viewers/animationviewer.h"
+#include "viewers/imagevieweritem.h"
 #include "viewers/shape.h"
 #include "viewers/textoutput.h"
 
@@ -28,6 +30,9 @@ struct Kind {
 constexpr Kind kinds[] = {
     {"Text", "Text", ":/assets/interface/text.png", make<TextOutput>, true, true},
     {"Shape", "Shape", ":/assets/interface/shapes.png", make<Shape>, true, true},
+    {"Image Viewer", "Image", ":/assets/interface/image.png", make<ImageViewerItem>, true, true},
+    // Named and counted as images are, and not dropped: on purpose.
+    {"Animation Viewer", "Image", ":/assets/interface/gif.png", make<AnimationViewer>, false, true},
 };
 
 const Kind *find(const QString &type)

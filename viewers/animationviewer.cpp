@@ -1,0 +1,102 @@
+#include "viewers/animationviewer.h"
+
+#include "viewers/mediafile.h"
+#include "viewers/movielabel.h"
+
+#include <QMovie>
+
+namespace
+{
+/// What a movie leaves to everything else between two frames, in milliseconds.
+constexpr int shortestRest = 5;
+} // namespace
+
+AnimationViewer::AnimationViewer(QWidget *parent)
+    : MediaViewer(QStringLiteral("Animation Viewer"), parent),
+      m_label(new MovieLabel(this))
+{
+    m_label->move(0, 0);
+    m_label->show();
+    m_rest.setSingleShot(true);
+    connect(&m_rest, &QTimer::timeout, this, &AnimationViewer::pauseOrResume);
+}
+
+AnimationViewer::~AnimationViewer() = default;
+
+void AnimationViewer::openFile(const QString &path)
+{
+    std::unique_ptr<QMovie> movie = MediaFile::readMovie(path);
+    if (!movie)
+        return;
+    movie->start();
+    const QSize frame = movie->currentPixmap().size();
+    if (frame.isEmpty())
+        return;
+    m_label->setMovie(movie.get());
+    m_movie = std::move(movie);
+    connect(m_movie.get(), &QMovie::frameChanged, this, &AnimationViewer::restIfHurried);
+    connect(m_movie.get(), &QMovie::finished, this, &AnimationViewer::playAgain);
+    takeSize(frame);
+    fitMovie();
+    // The first frame is there already, in its own size.
+    if (m_movie->scaledSize() != frame) {
+        m_movie->stop();
+        m_movie->start();
+    }
+    pauseOrResume();
+}
+
+void AnimationViewer::fitMovie()
+{
+    m_label->move(0, 0);
+    m_label->resize(size());
+    if (!m_movie)
+        return;
+    // A frame stretched to nothing would end the movie. One too large is stretched by the label.
+    const QSize stretched = size().expandedTo(QSize(1, 1));
+    m_movie->setScaledSize(MediaFile::isWithin(stretched, MediaFile::maximumFrameArea) ? stretched : QSize());
+}
+
+void AnimationViewer::playAgain()
+{
+    // Also a file that is to be played a few times only. A single frame has nothing to play.
+    if (m_movie->currentFrameNumber() > 0)
+        m_movie->start();
+}
+
+void AnimationViewer::restIfHurried()
+{
+    if (m_movie->nextFrameDelay() >= shortestRest)
+        return;
+    m_rest.start(shortestRest);
+    pauseOrResume();
+}
+
+void AnimationViewer::pauseOrResume()
+{
+    const bool isToPause = m_isHidden || m_rest.isActive();
+    const QMovie::MovieState state = m_movie ? m_movie->state() : QMovie::NotRunning;
+    if (state == (isToPause ? QMovie::Running : QMovie::Paused))
+        m_movie->setPaused(isToPause);
+}
+
+void AnimationViewer::resizeEvent(QResizeEvent *event)
+{
+    Q_UNUSED(event)
+    fitMovie();
+}
+
+void AnimationViewer::showEvent(QShowEvent *event)
+{
+    m_isHidden = false;
+    pauseOrResume();
+    MediaViewer::showEvent(event);
+}
+
+void AnimationViewer::hideEvent(QHideEvent *event)
+{
+    // Nobody sees it; nothing is decoded until it is in view again.
+    m_isHidden = true;
+    pauseOrResume();
+    MediaViewer::hideEvent(event);
+}

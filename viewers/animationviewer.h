@@ -1,0 +1,37 @@
+#pragma once
+
+#include "viewers/mediaviewer.h"
+
+#include <QTimer>
+
+#include <memory>
+
+class QLabel;
+class QMovie;
+
+/// The content of an animation item: it plays a movie file, stretched over the item, for as long as it lives.
+class AnimationViewer : public MediaViewer
+{
+    Q_OBJECT
+
+public:
+    explicit AnimationViewer(QWidget *parent);
+    ~AnimationViewer() override;
+
+protected:
+    void openFile(const QString &path) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+
+private:
+    void fitMovie();
+    void playAgain();
+    void restIfHurried();
+    void pauseOrResume();
+
+    QLabel *m_label = nullptr;
+    std::unique_ptr<QMovie> m_movie;
+    QTimer m_rest; // runs while a movie that leaves the window no time is held up
+    bool m_isHidden = false;
+};

@@ -1,0 +1,20 @@
+#include "viewers/imagevieweritem.h"
+
+#include "viewers/mediafile.h"
+
+ImageViewerItem::ImageViewerItem(QWidget *parent) : MediaViewer(QStringLiteral("Image Viewer"), parent) {}
+
+void ImageViewerItem::openFile(const QString &path)
+{
+    const QImage picture = MediaFile::readPicture(path);
+    if (picture.isNull())
+        return;
+    m_picture.setImage(picture);
+    takeSize(picture.size());
+}
+
+void ImageViewerItem::paintEvent(QPaintEvent *event)
+{
+    Q_UNUSED(event)
+    paintPicture(m_picture);
+}

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QImage>
+#include <QPixmap>
+
+class QPainter;
+
+/// A picture that is drawn stretched, without smoothing and without regard to its proportions. The stretched
+/// copy is kept, so that drawing once more is one blit.
+class StretchedPicture
+{
+public:
+    bool isNull() const { return m_image.isNull(); }
+    void setImage(const QImage &image);
+
+    /// Draws the picture at the origin in this size (px); nothing for an empty size.
+    void draw(QPainter &painter, QSize size);
+
+private:
+    const QPixmap &stretched(QSize size);
+
+    QImage m_image;
+    QPixmap m_stretched; // null until it is drawn
+};
