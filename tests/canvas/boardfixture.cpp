@@ -65,6 +65,12 @@ void BoardFixture::click(QPoint position, Qt::MouseButton button, Qt::KeyboardMo
     release(button);
 }
 
+void BoardFixture::doubleClick(QPoint position)
+{
+    m_mouse = position;
+    QTest::mouseDClick(m_window.windowHandle(), Qt::LeftButton, Qt::NoModifier, windowPosition(position));
+}
+
 void BoardFixture::moveTo(QPoint position)
 {
     m_mouse = position;

@@ -18,6 +18,8 @@ public:
     /// Waits until the window takes the focus; false when it does not.
     bool isReady();
 
+    QWidget *window() { return &m_window; }
+
     /// The canvas, owned by the fixture.
     Screen *screen() const { return m_screen; }
 
@@ -34,6 +36,8 @@ public:
     void release(Qt::MouseButton button = Qt::LeftButton);
     void click(QPoint position, Qt::MouseButton button = Qt::LeftButton,
                Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+
+    void doubleClick(QPoint position);
 
     /// Moves the mouse with the buttons that are held. Nothing moves when it is there already.
     void moveTo(QPoint position);
