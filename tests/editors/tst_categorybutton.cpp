@@ -218,7 +218,7 @@ void tst_CategoryButton::isToggledByScreenReaders()
         QCOMPARE(bool(shown.accessible()->state().collapsed), !isOpen);
         QCOMPARE(shown.item->isExpanded(), isOpen);
         QAccessibleActionInterface *actions = shown.accessible()->actionInterface();
-        QCOMPARE(actions->actionNames().first(), QAccessibleActionInterface::pressAction());
+        QCOMPARE(actions->actionNames().value(0), QAccessibleActionInterface::pressAction());
         actions->doAction(QAccessibleActionInterface::pressAction());
     }
 }
