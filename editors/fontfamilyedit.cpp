@@ -25,8 +25,16 @@ void FontFamilyEdit::setValue(QString key, QVariant value)
     m_comboBox->setAccessibleName(key);
     // Screen readers that take the current text for the name find the key here.
     m_comboBox->setToolTip(key);
+    showFamily(value.toString());
+}
+
+void FontFamilyEdit::showFamily(const QString &family)
+{
+    // A layout may name a font that is not among those of the program: it is shown as it is.
+    if (!family.isEmpty() && m_comboBox->findText(family) < 0)
+        m_comboBox->addItem(family);
     // Heard on purpose: a family chosen by the program is told like one of the user.
-    m_comboBox->setCurrentText(value.toString());
+    m_comboBox->setCurrentIndex(m_comboBox->findText(family));
 }
 
 QString FontFamilyEdit::getKey()

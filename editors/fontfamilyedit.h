@@ -13,8 +13,8 @@ public:
     /// Starts with the families that the program has loaded by now.
     explicit FontFamilyEdit(QWidget *parent = nullptr);
 
-    /// A family other than the current one is told like an edit. One that is not among the choices leaves the
-    /// current one.
+    /// A family other than the current one is told like an edit. One that is not among the choices joins them
+    /// as the last one; an empty name shows none.
     void setValue(QString key, QVariant value) override;
     QString getKey() override;
     QVariant getValue() override;
@@ -27,6 +27,8 @@ private slots:
     void valueChanged(const QString &value);
 
 private:
+    void showFamily(const QString &family);
+
     QComboBox *m_comboBox;
     QString m_key;
 };

@@ -17,6 +17,38 @@ constexpr int gridMargin = 4;   // pixels
 constexpr int gridSpacing = 5;  // pixels
 constexpr int labelSpacing = 4; // pixels
 
+/// The editors in a layout that take the focus, those in the rows inside it included.
+QList<QWidget *> editorsIn(const QLayout *layout)
+{
+    QList<QWidget *> editors;
+    for (int i = 0; i < layout->count(); ++i) {
+        QLayoutItem *item = layout->itemAt(i);
+        if (item->layout())
+            editors.append(editorsIn(item->layout()));
+        else if (item->widget() && item->widget()->focusProxy())
+            editors.append(item->widget());
+    }
+    return editors;
+}
+
+/// The editors of a layout and of the layouts in it. An editor is moved with everything in it, but only when
+/// it has a focus policy itself.
+QList<QWidget *> focusStops(const QLayout &layout)
+{
+    QList<QWidget *> stops;
+    for (int i = 0; i < layout.count(); ++i) {
+        QLayoutItem *item = layout.itemAt(i);
+        QWidget *editor = item->widget();
+        if (item->layout())
+            stops.append(focusStops(*item->layout()));
+        else if (editor && editor->focusProxy()) {
+            editor->setFocusPolicy(editor->focusProxy()->focusPolicy());
+            stops.append(editor);
+        }
+    }
+    return stops;
+}
+
 /// True for a frame: it takes values and announces them as a content does.
 bool takesValues(const QObject *object)
 {
@@ -98,17 +130,10 @@ QTreeWidgetItem *PropertyPanel::addRow(QTreeWidgetItem *category)
 
 void PropertyPanel::orderFocus()
 {
-    // An editor is moved with everything in it, but only when it has a focus policy itself.
     QList<QWidget *> stops;
     for (int i = 0; i < topLevelItemCount(); ++i) {
         stops.append(itemWidget(topLevelItem(i), 0));
-        const QLayout *grid = itemWidget(topLevelItem(i)->child(0), 0)->layout();
-        for (int j = 0; j < grid->count(); ++j) {
-            if (QWidget *editor = grid->itemAt(j)->widget(); editor->focusProxy()) {
-                editor->setFocusPolicy(editor->focusProxy()->focusPolicy());
-                stops.append(editor);
-            }
-        }
+        stops.append(focusStops(*itemWidget(topLevelItem(i)->child(0), 0)->layout()));
     }
     for (int i = 1; i < stops.size(); ++i)
         setTabOrder(stops.at(i - 1), stops.at(i));

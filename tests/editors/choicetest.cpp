@@ -101,25 +101,6 @@ void ChoiceTest::staysSilentWhenChoiceIsTheCurrentOne()
     QCOMPARE(log.takeLines(), QStringList());
 }
 
-void ChoiceTest::keepsChoiceWhenValueIsNone_data()
-{
-    QTest::addColumn<QVariant>("value");
-
-    QTest::newRow("unknown word") << QVariant("Star");
-    QTest::newRow("other case") << QVariant("rectangle");
-    QTest::newRow("start of a word") << QVariant("Rect");
-    QTest::newRow("nothing") << QVariant();
-}
-
-void ChoiceTest::keepsChoiceWhenValueIsNone()
-{
-    QFETCH(QVariant, value);
-    EditLog log(&edit());
-    edit().setValue("Shape", value);
-    QCOMPARE(edit().getValue(), QVariant(QString("Line")));
-    QCOMPARE(log.takeLines(), QStringList());
-}
-
 void ChoiceTest::hasFocusInItsComboBox()
 {
     QVERIFY(QTest::qWaitForWindowActive(&edit()));

@@ -29,8 +29,6 @@ private slots:
     void tellsChoiceMadeByTheProgram();
     void tellsProgrammedChoiceUnderTheNewKey();
     void staysSilentWhenChoiceIsTheCurrentOne();
-    void keepsChoiceWhenValueIsNone_data();
-    void keepsChoiceWhenValueIsNone();
 
     void hasFocusInItsComboBox();
     void namesItsComboBoxByTheKey();

@@ -17,6 +17,8 @@ private slots:
     void keepsKeyUnderAnotherLabel();
     void keepsLabelUntilKeyChanges();
     void tellsFirstOfAllChoices();
+    void keepsChoiceWhenValueIsNone_data();
+    void keepsChoiceWhenValueIsNone();
     void namesItsComboBoxByTheKeyUnderAnotherLabel();
     void isLabelledForScreenReaders();
 
@@ -89,6 +91,25 @@ void tst_EnumEdit::tellsFirstOfAllChoices()
     EditLog log(&fresh);
     fresh.setAvailableValues({"Ellipse", "Line"});
     QCOMPARE(log.takeEdits(), QStringList("valueEdited  QString Ellipse"));
+}
+
+void tst_EnumEdit::keepsChoiceWhenValueIsNone_data()
+{
+    QTest::addColumn<QVariant>("value");
+
+    QTest::newRow("unknown word") << QVariant("Star");
+    QTest::newRow("other case") << QVariant("rectangle");
+    QTest::newRow("start of a word") << QVariant("Rect");
+    QTest::newRow("nothing") << QVariant();
+}
+
+void tst_EnumEdit::keepsChoiceWhenValueIsNone()
+{
+    QFETCH(QVariant, value);
+    EditLog log(&edit());
+    edit().setValue("Shape", value);
+    QCOMPARE(edit().getValue(), QVariant(QString("Line")));
+    QCOMPARE(log.takeLines(), QStringList());
 }
 
 void tst_EnumEdit::namesItsComboBoxByTheKeyUnderAnotherLabel()

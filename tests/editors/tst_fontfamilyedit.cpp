@@ -25,6 +25,9 @@ private slots:
     void staysNarrowWhateverTheNames();
     void showsNamesInFullInItsList();
     void describesItsComboBoxByTheKey();
+    void showsAFamilyThatIsNotThere();
+    void tellsAFamilyThatIsNotThere();
+    void showsNothingForNoName();
     void listsFamiliesThatAreLoadedByNow();
 
 protected:
@@ -78,6 +81,37 @@ void tst_FontFamilyEdit::describesItsComboBoxByTheKey()
 {
     const auto *accessible = QAccessible::queryAccessibleInterface(comboBox());
     QCOMPARE(accessible->text(QAccessible::Description), QString("Shape"));
+}
+
+void tst_FontFamilyEdit::showsAFamilyThatIsNotThere()
+{
+    edit().setValue("Font", "line");
+    QCOMPARE(edit().getValue(), QVariant("line"));
+    QCOMPARE(choices(), QStringList({"Ellipse", "Line", "Rectangle", "line"}));
+    edit().setValue("Font", "Ellipse");
+    edit().setValue("Font", "line");
+    QCOMPARE(choices(), QStringList({"Ellipse", "Line", "Rectangle", "line"}));
+
+    FontFamilyEdit empty;
+    empty.setValue("Font", "Arial");
+    QCOMPARE(empty.getValue(), QVariant("Arial"));
+}
+
+void tst_FontFamilyEdit::tellsAFamilyThatIsNotThere()
+{
+    EditLog log(&edit());
+    edit().setValue("Font", "Arial");
+    QCOMPARE(log.takeEdits(), QStringList("valueEdited Font QString Arial"));
+}
+
+void tst_FontFamilyEdit::showsNothingForNoName()
+{
+    for (const QVariant &none : {QVariant(), QVariant(QString())}) {
+        edit().setValue("Font", none);
+        QCOMPARE(edit().getValue(), QVariant(QString()));
+        QCOMPARE(choices(), QStringList({"Ellipse", "Line", "Rectangle"}));
+        edit().setValue("Font", "Line");
+    }
 }
 
 /// The last test: what is loaded stays.
