@@ -230,15 +230,16 @@ void tst_FilePathEdit::cancellingClearsThePathThoughAFileIsSelected()
 {
     const QTemporaryDir folder;
     const QString path = fileIn(folder);
+    QStringList selected;
     DialogAnswers answers;
-    answers.act([path](QDialog *dialog) {
-        auto *files = qobject_cast<QFileDialog *>(dialog);
-        files->selectFile(path);
-        files->reject();
+    answers.act([&](QDialog *dialog) {
+        dialog->findChild<QLineEdit *>("fileNameEdit")->setText(path);
+        selected = qobject_cast<QFileDialog *>(dialog)->selectedFiles();
+        dialog->reject();
         return true;
     });
     clickButton();
-    QVERIFY(answers.areUsedUp());
+    QCOMPARE(selected, QStringList(path));
     QCOMPARE(m_edit->getValue(), QVariant(""));
 }
 

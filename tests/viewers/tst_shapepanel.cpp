@@ -78,6 +78,16 @@ struct OpenPanel {
         return editor(key)->findChild<Widget *>();
     }
 
+    /// The label left of an editor that has none of its own.
+    QLabel *labelBeside(const QString &key) const
+    {
+        const QWidget *edit = editor(key);
+        const QPoint beside(edit->x() - 8, edit->geometry().center().y());
+        if (auto *label = qobject_cast<QLabel *>(edit->parentWidget()->childAt(beside)))
+            return label;
+        qFatal("no label beside %s", qPrintable(key));
+    }
+
     void type(const QString &key, const QString &text)
     {
         part<QSpinBox>(key)->selectAll();
@@ -171,6 +181,8 @@ private slots:
 
     void tabWalksFromTopToBottom();
     void iconsAreNamedForScreenReaders();
+    void columnsAreAligned();
+    void colorsStandBesideTheirLabels();
     void isNotClippedInTheColumn_data();
     void isNotClippedInTheColumn();
 };
@@ -519,6 +531,29 @@ void tst_ShapePanel::iconsAreNamedForScreenReaders()
     const OpenPanel open;
     for (const char *key : {"Color", "Border Color"})
         QCOMPARE(open.part<QPushButton>(key)->accessibleName(), QString(key));
+}
+
+void tst_ShapePanel::columnsAreAligned()
+{
+    const OpenPanel open;
+    const auto left = [&open](const QWidget *widget) {
+        return widget->mapTo(open.host.get(), QPoint()).x();
+    };
+    const int column = left(open.part<QComboBox>("Shape"));
+    QCOMPARE(left(open.part<QComboBox>("Align")), column);
+    QCOMPARE(left(open.part<QSpinBox>("Opacity")), column);
+    QCOMPARE(left(open.part<QSpinBox>("Line Width")), column);
+    QCOMPARE(left(open.part<QPushButton>("Color")), left(open.part<QPushButton>("Border Color")));
+}
+
+void tst_ShapePanel::colorsStandBesideTheirLabels()
+{
+    const OpenPanel open;
+    QCOMPARE(open.labelBeside("Color")->text(), QString("Color"));
+    const QLabel *longer = open.labelBeside("Border Color");
+    QCOMPARE(longer->text(), QString("Border Color"));
+    // The room that is left lies behind the colours.
+    QCOMPARE(longer->width(), longer->sizeHint().width());
 }
 
 void tst_ShapePanel::isNotClippedInTheColumn_data()
