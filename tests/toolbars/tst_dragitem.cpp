@@ -26,7 +26,7 @@ private slots:
 
 namespace
 {
-const QString format("screen/screenItem");
+const auto format = QStringLiteral("screen/screenItem");
 }
 
 void tst_DragItem::hasNoSignalsOrSlots()

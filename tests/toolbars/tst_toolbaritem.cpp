@@ -39,9 +39,9 @@ private slots:
 
 namespace
 {
-const QString image(":/assets/interface/layerToolBarSettings/alignLeft.png");
-const QColor background(0x45, 0x45, 0x45);
-const QColor hover(0x6f, 0x6f, 0x6f);
+const auto image = QStringLiteral(":/assets/interface/layerToolBarSettings/alignLeft.png");
+constexpr QRgb background = 0xff454545;
+constexpr QRgb hover = 0xff6f6f6f;
 
 /// An item on a window of its own.
 struct ShownItem {
@@ -62,7 +62,7 @@ struct ShownItem {
     bool ready = false;
 };
 
-QImage imageOn(const QColor &color)
+QImage imageOn(QRgb color)
 {
     QImage picture(30, 30, QImage::Format_RGB32);
     picture.fill(color);

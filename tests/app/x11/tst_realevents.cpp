@@ -13,6 +13,8 @@
 #include <QLineEdit>
 #include <QTemporaryDir>
 
+#include <algorithm>
+
 // An operator's session with a real mouse and keyboard, on a real X display under a window manager.
 class tst_RealEvents : public QObject
 {
@@ -32,12 +34,14 @@ private slots:
     void cursorTellsWhatADragWouldDo();
     void controlArrowMovesAndShiftArrowResizes();
     void deleteKeyRemovesTheItem();
+    void itemBarAddsAndLayerToolBarPlacesAnItem();
     void controlSAsksForAPathAndWritesTheBoard();
     void controlOOpensTheBoardThatIsTyped();
 
 private:
     Screen &canvas() const { return *m_window->canvas(); }
     QPoint global(QPoint onCanvas) const { return canvas().mapToGlobal(onCanvas); }
+    QPoint middleOf(const QString &button) const;
     ScreenItem *item() const { return canvas().items().constFirst(); }
     bool makeActive();
 
@@ -189,6 +193,33 @@ void tst_RealEvents::deleteKeyRemovesTheItem()
     QVERIFY(makeActive());
     QVERIFY(pressKey("Delete"));
     QTRY_VERIFY(canvas().items().isEmpty());
+}
+
+/// The middle of the bars' button that assistive tools know by this name.
+QPoint tst_RealEvents::middleOf(const QString &button) const
+{
+    const QList<QWidget *> widgets = m_window->findChildren<QWidget *>();
+    const auto found = std::find_if(widgets.begin(), widgets.end(), [&button](const QWidget *widget) {
+        return widget->accessibleName() == button;
+    });
+    return found == widgets.end() ? QPoint() : (*found)->mapToGlobal((*found)->rect().center());
+}
+
+void tst_RealEvents::itemBarAddsAndLayerToolBarPlacesAnItem()
+{
+    QVERIFY(click(middleOf("Shape")));
+    QTRY_COMPARE(canvas().items().size(), 2);
+    ScreenItem *added = canvas().items().last();
+    QVERIFY(click(middleOf("Align Right")) && click(middleOf("Center Vertically")));
+    QTRY_COMPARE(added->geometry(), QRect(700, 175, 100, 50));
+    QVERIFY(click(middleOf("Move Layer Down")));
+    QTRY_COMPARE(canvas().items().first(), added);
+    // The keyboard has stayed with the item all the time.
+    QVERIFY(pressKey("ctrl+Left"));
+    QTRY_COMPARE(added->x(), 699);
+    QVERIFY(click(middleOf("Delete")));
+    QTRY_COMPARE(canvas().items().size(), 1);
+    QCOMPARE(item()->geometry(), itemGeometry);
 }
 
 void tst_RealEvents::controlSAsksForAPathAndWritesTheBoard()
