@@ -8,6 +8,7 @@
 #include <QImageReader>
 #include <QMenu>
 #include <QMimeData>
+#include <QScrollBar>
 #include <QUrl>
 
 #include <memory>
@@ -60,6 +61,19 @@ void CustomTextEditor::contextMenuEvent(QContextMenuEvent *event)
     // The see-through sheet of the area around the canvas reaches down to here.
     menu->setStyleSheet(qApp->styleSheet());
     menu->exec(event->globalPos());
+}
+
+void CustomTextEditor::showEvent(QShowEvent *event)
+{
+    QTextEdit::showEvent(event);
+    if (isReadOnly())
+        showBeginning();
+}
+
+void CustomTextEditor::showBeginning()
+{
+    horizontalScrollBar()->setValue(0);
+    verticalScrollBar()->setValue(0);
 }
 
 void CustomTextEditor::insertFromMimeData(const QMimeData *source)

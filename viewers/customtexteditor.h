@@ -15,8 +15,13 @@ public:
     /// names (on a server, in a file) are left out, and so are style sheets.
     QVariant loadResource(int type, const QUrl &name) override;
 
+    /// Scrolls to the start of the text.
+    void showBeginning();
+
 protected:
     void contextMenuEvent(QContextMenuEvent *event) override;
+    /// A text that is larger than the editor shows its beginning; the toolkit would look for its cursor.
+    void showEvent(QShowEvent *event) override;
     /// Of what is too much to be shown only the beginning is inserted.
     void insertFromMimeData(const QMimeData *source) override;
 };

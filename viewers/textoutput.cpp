@@ -13,7 +13,6 @@
 #include <QDebug>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
-#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QTextCursor>
 #include <QTextFrame>
@@ -354,16 +353,9 @@ void TextOutput::setTopMargin(int (*marginFor)(int, int))
         format.setTopMargin(margin);
         root->setFrameFormat(format);
     }
-    showBeginning();
-}
-
-void TextOutput::showBeginning()
-{
     // A text that is larger than its item is cut, it does not scroll.
-    if (isEditing())
-        return;
-    m_editor->horizontalScrollBar()->setValue(0);
-    m_editor->verticalScrollBar()->setValue(0);
+    if (!isEditing())
+        m_editor->showBeginning();
 }
 
 bool TextOutput::isEditing() const

@@ -69,7 +69,6 @@ private:
     void alignParagraphs(QTextCursor &cursor) const;
     void placeText();
     void setTopMargin(int (*marginFor)(int, int));
-    void showBeginning();
 
     CustomTextEditor *m_editor = nullptr;
     int m_vertical = TextAlignment::Middle;

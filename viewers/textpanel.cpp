@@ -52,6 +52,7 @@ EnumEdit *addType(PropertyPanel &panel, ContentViewer &text)
     type->setAvailableValues(text.getEnumsFor(TextKeys::textType()));
     panel.bind(type, TextKeys::textType());
     type->setLabelText(QCoreApplication::translate("TextPanel", "Type"));
+    PropertyPanel::alignLabels({type});
     return type;
 }
 
