@@ -31,8 +31,12 @@ void IntEdit::setValue(QString key, QVariant value)
 {
     if (key != m_key)
         adoptKey(key);
+    const int number = value.toInt();
+    // A spin box paints itself anew for every value that it is given; an item that is dragged tells four.
+    if (number == m_spinBox->value() && m_spinBox->text() == QString::number(number))
+        return;
     const QSignalBlocker silence(m_spinBox);
-    m_spinBox->setValue(value.toInt());
+    m_spinBox->setValue(number);
 }
 
 QString IntEdit::getKey()

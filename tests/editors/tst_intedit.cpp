@@ -1,6 +1,7 @@
 #include "editors/intedit.h"
 
 #include "tests/editors/editlog.h"
+#include "tests/support/eventcounter.h"
 #include "tests/support/strictmain.h"
 
 #include <QAccessible>
@@ -58,6 +59,9 @@ private slots:
     void readsValueAsInteger();
     void showsClampedValueInSilence_data();
     void showsClampedValueInSilence();
+    void paintsNothingAnewForTheShownValue();
+    void finishesHalfAnEntryWithTheValueItHas_data();
+    void finishesHalfAnEntryWithTheValueItHas();
     void hidesLabelOfEmptyKey();
     void keepsKeyUnderAnotherLabel();
     void keepsLabelUntilKeyChanges();
@@ -173,6 +177,38 @@ void tst_IntEdit::showsClampedValueInSilence()
     shown.edit.setValue("X", value);
     QTEST(shown.edit.getValue().toInt(), "shown");
     QCOMPARE(log.takeLines(), QStringList());
+}
+
+void tst_IntEdit::paintsNothingAnewForTheShownValue()
+{
+    Shown shown;
+    QVERIFY(QTest::qWaitForWindowExposed(&shown.edit));
+    QCoreApplication::processEvents();
+    EventCounter paints(shown.spinBox, QEvent::Paint);
+    shown.edit.setValue("X", 5);
+    QCoreApplication::processEvents();
+    QCOMPARE(paints.count, 0);
+    shown.edit.setValue("X", 6);
+    QTRY_VERIFY(paints.count > 0);
+}
+
+void tst_IntEdit::finishesHalfAnEntryWithTheValueItHas_data()
+{
+    QTest::addColumn<QString>("entry");
+
+    QTest::newRow("nothing") << "";
+    QTest::newRow("leading zeros") << "005";
+}
+
+void tst_IntEdit::finishesHalfAnEntryWithTheValueItHas()
+{
+    QFETCH(QString, entry);
+    Shown shown;
+    shown.spinBox->findChild<QLineEdit *>()->clear();
+    QTest::keyClicks(shown.spinBox, entry);
+    QCOMPARE(shown.spinBox->text(), entry);
+    shown.edit.setValue("X", 5);
+    QCOMPARE(shown.spinBox->text(), QString("5"));
 }
 
 void tst_IntEdit::hidesLabelOfEmptyKey()
