@@ -106,8 +106,27 @@ void Screen::moveFrames(const QList<ScreenItem *> &frames, QPoint delta)
 
 void Screen::restack()
 {
-    for (ScreenItem *item : qAsConst(m_items))
-        item->raise();
+    // Children lie in stacking order. What is in place stays, since each raised frame costs a walk and a
+    // paint.
+    int place = 0;
+    for (ScreenItem *item : qAsConst(m_items)) {
+        const int found = children().indexOf(item, place);
+        if (found >= 0)
+            place = found + 1;
+        else
+            raiseTo(place, *item);
+    }
+}
+
+void Screen::raiseTo(int place, ScreenItem &item)
+{
+    for (int above = place; above < children().size(); ++above) {
+        if (auto *widget = qobject_cast<QWidget *>(children().at(above))) {
+            item.stackUnder(widget);
+            return;
+        }
+    }
+    item.raise();
 }
 
 void Screen::bringToFront(ScreenItem *item)

@@ -49,7 +49,8 @@ public:
     /// once.
     void moveFrames(const QList<ScreenItem *> &frames, QPoint delta);
 
-    /// Raises every frame in layer order, so that widget stacking equals list order.
+    /// Makes the stacking of the widgets equal the order of the layers: the same as raising every frame in
+    /// turn.
     void restack();
 
     void bringToFront(ScreenItem *item);
@@ -130,6 +131,7 @@ private:
     QJsonArray selectionToJson();
     bool copySelection();
     void swapLayers(int index, int otherIndex);
+    void raiseTo(int place, ScreenItem &item);
 
     QList<ScreenItem *> m_items;
     QList<ScreenItem *> m_selection;
