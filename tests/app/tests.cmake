@@ -13,3 +13,5 @@ boardwright_add_test(app/tst_screencontainer LINK boardwright_app)
 boardwright_add_test(app/tst_program RUNS boardwright)
 boardwright_add_test(app/x11/tst_realevents SOURCES app/x11/pointer.cpp LINK boardwright_app ON_DISPLAY)
 boardwright_add_test(app/x11/tst_realprogram SOURCES app/x11/pointer.cpp RUNS boardwright ON_DISPLAY)
+boardwright_add_test(app/x11/tst_realupdate
+    SOURCES app/x11/pointer.cpp LINK boardwright_updatetest RUNS boardwright ON_DISPLAY)

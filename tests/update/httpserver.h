@@ -20,8 +20,8 @@ public:
     /// From here on speaks TLS with the certificate and key of this file, first one then the other.
     void secureWith(const QString &pemFile);
 
-    /// The answer to requests for this encoded path, or with an empty one for all that have none of their own.
-    /// The rest is answered with 404.
+    /// The answer to requests for this encoded path, or with an empty one for all that have none of their
+    /// own. The rest is answered with 404.
     void on(const QByteArray &path, const Answer &answer);
 
     /// The same for bytes that are sent at once, before the connection is closed.

@@ -36,9 +36,11 @@ bool saveToDisk(UpdateMagaer &updates, const QString &name, const QByteArray &by
     QBuffer buffer;
     buffer.setData(bytes);
     buffer.open(QIODevice::ReadOnly);
+    // Not Q_ARG: with a blank before its star the type would have to be normalised first.
+    const QArgument<QIODevice *> data("QIODevice*", &buffer);
     bool isSaved = false;
     QMetaObject::invokeMethod(&updates, "saveToDisk", Q_RETURN_ARG(bool, isSaved), Q_ARG(QString, name),
-                              Q_ARG(QIODevice *, &buffer));
+                              data);
     return isSaved;
 }
 } // namespace
