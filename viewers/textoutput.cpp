@@ -119,11 +119,16 @@ void TextOutput::setValue(QString key, QVariant value)
 
 void TextOutput::setAlignment(int code)
 {
-    m_vertical = code % 10;
-    m_horizontal = code - m_vertical;
+    adoptCode(code);
     announceAlignment();
     format(TextKeys::aligment());
     update();
+}
+
+void TextOutput::adoptCode(int code)
+{
+    m_vertical = code % 10;
+    m_horizontal = code - m_vertical;
 }
 
 void TextOutput::announceAlignment()
@@ -232,6 +237,7 @@ void TextOutput::resizeEvent(QResizeEvent *event)
 void TextOutput::beginReading()
 {
     m_isReading = !isEditing();
+    m_codeBefore = m_horizontal + m_vertical;
 }
 
 void TextOutput::endReading()
@@ -239,7 +245,13 @@ void TextOutput::endReading()
     if (!m_isReading)
         return;
     m_isReading = false;
+    const int code = m_horizontal + m_vertical;
+    if (!TextAlignment::flags(code))
+        adoptCode(m_codeBefore);
     dressText();
+    // A number that is no code leaves a text where the code before it has put it.
+    adoptCode(code);
+    placeText();
 }
 
 void TextOutput::dressText()
@@ -352,6 +364,9 @@ void TextOutput::setTopMargin(int (*marginFor)(int, int))
     if (format.topMargin() != margin) {
         format.setTopMargin(margin);
         root->setFrameFormat(format);
+        // The toolkit does not lay an empty document out anew by itself, and its height would stay as it was.
+        if (m_editor->document()->isEmpty())
+            m_editor->document()->markContentsDirty(0, 1);
     }
     // A text that is larger than its item is cut, it does not scroll.
     if (!isEditing())

@@ -56,6 +56,7 @@ private:
     void lodgeEditor(QWidget *parent);
     void tellEdit(bool isModified);
     void setAlignment(int code);
+    void adoptCode(int code);
     void announceAlignment();
     void press(const TextAlignment::Button &button);
     bool isPressed(const TextAlignment::Button &button) const;
@@ -74,6 +75,7 @@ private:
     int m_vertical = TextAlignment::Middle;
     int m_horizontal = TextAlignment::Center;
     bool m_isReading = false;
+    int m_codeBefore = 0; // when reading began
     bool m_isAnnouncing = false;
     bool m_isShownWhole = true;
 };

@@ -6,6 +6,16 @@
 #include <QBrush>
 #include <QFont>
 
+namespace
+{
+void setFont(QTextCharFormat &format, const QString &family)
+{
+    format.setFontFamily(family);
+    // The families that HTML may name would win over the one.
+    format.setFontFamilies({family});
+}
+} // namespace
+
 bool TextStyle::isStyle(const QString &key)
 {
     return key == TextKeys::italic() || key == TextKeys::font() || key == TextKeys::underlined() ||
@@ -18,7 +28,7 @@ QTextCharFormat TextStyle::charFormat(const QString &key, const QVariant &value)
     if (key == TextKeys::italic())
         format.setFontItalic(value.toBool());
     else if (key == TextKeys::font())
-        format.setFontFamily(value.toString());
+        setFont(format, value.toString());
     else if (key == TextKeys::underlined())
         format.setFontUnderline(value.toBool());
     else if (key == TextKeys::size())

@@ -9,6 +9,6 @@ namespace TextStyle
 /// True for the parameters that set the look of characters.
 bool isStyle(const QString &key);
 
-/// The one property that the parameter sets; an empty format for any other key.
+/// What the parameter sets and nothing else; an empty format for any other key.
 QTextCharFormat charFormat(const QString &key, const QVariant &value);
 } // namespace TextStyle
