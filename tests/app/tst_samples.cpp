@@ -39,7 +39,8 @@ namespace
 QList<ScreenItem *> textsOf(const MainWindow &window)
 {
     QList<ScreenItem *> texts;
-    for (ScreenItem *item : window.canvas()->items()) {
+    const QList<ScreenItem *> items = window.canvas()->items();
+    for (ScreenItem *item : items) {
         if (item->content()->getValues().value("Type") == "Text")
             texts.append(item);
     }
@@ -54,7 +55,8 @@ QString stored(const ScreenItem *text, const QString &key)
 QStringList fieldsOf(const MainWindow &window)
 {
     QStringList fields;
-    for (const ScreenItem *text : textsOf(window))
+    const QList<ScreenItem *> texts = textsOf(window);
+    for (const ScreenItem *text : texts)
         fields.append(stored(text, "Text Type"));
     fields.sort();
     fields.removeDuplicates();
@@ -139,7 +141,8 @@ void tst_Samples::namesBundledFamilies()
     MainWindow window(nullptr);
     window.openFile(sample);
     const QStringList families = MainWindow::fontFamilies();
-    for (const ScreenItem *text : textsOf(window)) {
+    const QList<ScreenItem *> texts = textsOf(window);
+    for (const ScreenItem *text : texts) {
         const QString family = stored(text, "Font");
         QVERIFY2(families.contains(family), qPrintable(family));
         QCOMPARE(QFontInfo(QFont(family)).family(), family);
@@ -152,7 +155,8 @@ void tst_Samples::choosesTheAlignmentOfItsTexts()
 
     MainWindow window(nullptr);
     window.openFile(sample);
-    for (const ScreenItem *text : textsOf(window))
+    const QList<ScreenItem *> texts = textsOf(window);
+    for (const ScreenItem *text : texts)
         QVERIFY2(stored(text, "Align_int") != "11", qPrintable(stored(text, "Text")));
 }
 
@@ -164,7 +168,8 @@ void tst_Samples::showsItsTextsWhole()
     MainWindow window(nullptr);
     window.show();
     window.openFile(sample);
-    for (const ScreenItem *text : textsOf(window)) {
+    const QList<ScreenItem *> texts = textsOf(window);
+    for (const ScreenItem *text : texts) {
         const auto *editor = text->findChild<QTextEdit *>();
         QVERIFY(editor);
         QCOMPARE(editor->size(), text->size());
