@@ -3,6 +3,8 @@
 #include "viewers/mediafile.h"
 #include "viewers/movielabel.h"
 
+#include <QIODevice>
+#include <QLayout>
 #include <QMovie>
 
 namespace
@@ -37,13 +39,27 @@ void AnimationViewer::openFile(const QString &path)
     connect(m_movie.get(), &QMovie::frameChanged, this, &AnimationViewer::restIfHurried);
     connect(m_movie.get(), &QMovie::finished, this, &AnimationViewer::playAgain);
     takeSize(frame);
+    layOut();
     fitMovie();
     // The first frame is there already, in its own size.
-    if (m_movie->scaledSize() != frame) {
-        m_movie->stop();
-        m_movie->start();
-    }
+    if (m_movie->scaledSize() != frame)
+        startAnew();
     pauseOrResume();
+}
+
+void AnimationViewer::layOut()
+{
+    // A frame that was not shown yet may not have given its content a size.
+    if (QLayout *layout = parentWidget() ? parentWidget()->layout() : nullptr)
+        layout->activate();
+}
+
+void AnimationViewer::startAnew()
+{
+    m_movie->stop();
+    // The movie's own way back looks for the beginning where it has stopped reading.
+    m_movie->device()->seek(0);
+    m_movie->start();
 }
 
 void AnimationViewer::fitMovie()
@@ -61,7 +77,7 @@ void AnimationViewer::playAgain()
 {
     // Also a file that is to be played a few times only. A single frame has nothing to play.
     if (m_movie->currentFrameNumber() > 0)
-        m_movie->start();
+        startAnew();
 }
 
 void AnimationViewer::restIfHurried()

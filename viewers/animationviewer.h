@@ -25,7 +25,9 @@ protected:
     void hideEvent(QHideEvent *event) override;
 
 private:
+    void layOut();
     void fitMovie();
+    void startAnew();
     void playAgain();
     void restIfHurried();
     void pauseOrResume();

@@ -1,0 +1,278 @@
+#include "viewers/mediafile.h"
+
+#include "tests/support/strictmain.h"
+#include "tests/viewers/mediafolder.h"
+
+#include <QBuffer>
+#include <QDir>
+
+#include <algorithm>
+
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#endif
+
+/// Files that are what they say, and files that are not.
+class tst_MediaFile : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void readsPicturesOfEveryFormat_data();
+    void readsPicturesOfEveryFormat();
+    void readsPicturesByWhatIsInThem_data();
+    void readsPicturesByWhatIsInThem();
+    void readsPathsRelativeToTheWorkingDirectory();
+    void followsLinks();
+    void readsNothingElse_data();
+    void readsNothingElse();
+    void readsNoPipe();
+    void readsNoFileBeyondMeasure();
+    void readsNoPictureBeyondMeasure_data();
+    void readsNoPictureBeyondMeasure();
+    void readsTheLargestPictureWithinMeasure();
+    void readsNoDrawing();
+    void survivesTruncation_data();
+    void survivesTruncation();
+
+private:
+    const MediaFolder m_folder;
+};
+
+namespace
+{
+QByteArray encoded(const QImage &image, const char *format)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, format);
+    return bytes;
+}
+
+quint32 checksum(const QByteArray &bytes)
+{
+    quint32 sum = 0xffffffff;
+    for (const char byte : bytes) {
+        sum ^= quint8(byte);
+        for (int bit = 0; bit < 8; ++bit)
+            sum = sum >> 1 ^ (sum & 1 ? 0xedb88320 : 0);
+    }
+    return ~sum;
+}
+
+/// The value as its bytes, the lowest first.
+QByteArray littleEndian(qint64 value, int length)
+{
+    QByteArray bytes;
+    for (int i = 0; i < length; ++i)
+        bytes += char(value >> 8 * i & 0xff);
+    return bytes;
+}
+
+QByteArray bigEndian(qint64 value)
+{
+    QByteArray bytes = littleEndian(value, 4);
+    std::reverse(bytes.begin(), bytes.end());
+    return bytes;
+}
+
+/// The bytes of a picture with another size in the header.
+QByteArray pngOfSize(int width, int height)
+{
+    QByteArray bytes = encoded(MediaFolder::chequered({4, 4}), "png");
+    bytes.replace(16, 8, bigEndian(width) + bigEndian(height));
+    return bytes.replace(29, 4, bigEndian(checksum(bytes.mid(12, 17))));
+}
+
+QByteArray bmpOfSize(int width, int height)
+{
+    QByteArray bytes = encoded(MediaFolder::chequered({4, 4}), "bmp");
+    return bytes.replace(18, 8, littleEndian(width, 4) + littleEndian(height, 4));
+}
+
+/// Of the size in the header as in the frames, without the pixels to fill it.
+QByteArray gifOfSize(int width, int height)
+{
+    const QByteArray size = littleEndian(width, 2) + littleEndian(height, 2);
+    QByteArray bytes = Gif{{4, 4}, {Qt::red, Qt::green}}.bytes();
+    return bytes.replace(QByteArray("\x04\x00\x04\x00", 4), size);
+}
+} // namespace
+
+void tst_MediaFile::readsPicturesOfEveryFormat_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char *format : {"png", "bmp", "jpg", "jpeg", "ppm", "xpm"})
+        QTest::newRow(format) << QString("picture.") + format;
+}
+
+void tst_MediaFile::readsPicturesOfEveryFormat()
+{
+    QFETCH(QString, name);
+    const QString path = m_folder.picture({70, 30}, name);
+    const QImage picture = MediaFile::readPicture(path);
+    QCOMPARE(picture, QImage(path));
+    QCOMPARE(picture.size(), QSize(70, 30));
+}
+
+void tst_MediaFile::readsPicturesByWhatIsInThem_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char *name :
+         {"picture.jpg", "picture.bmp", "picture.gif", "picture.txt", "picture", "a.b.c", ".png"})
+        QTest::newRow(name) << name;
+}
+
+void tst_MediaFile::readsPicturesByWhatIsInThem()
+{
+    QFETCH(QString, name);
+    const QImage image = MediaFolder::chequered({70, 30});
+    const QString path = m_folder.file(name, encoded(image, "png"));
+    QCOMPARE(MediaFile::readPicture(path), image);
+    QVERIFY(MediaFile::readMovie(path));
+}
+
+void tst_MediaFile::readsPathsRelativeToTheWorkingDirectory()
+{
+    QVERIFY(!m_folder.picture({70, 30}, "relative.png").isEmpty());
+    const QString before = QDir::currentPath();
+    QVERIFY(QDir::setCurrent(m_folder.path("")));
+    const QImage picture = MediaFile::readPicture("relative.png");
+    const bool isMovie = MediaFile::readMovie("./relative.png") != nullptr;
+    QVERIFY(QDir::setCurrent(before));
+    QCOMPARE(picture.size(), QSize(70, 30));
+    QVERIFY(isMovie);
+}
+
+void tst_MediaFile::followsLinks()
+{
+    QVERIFY(QFile::link(m_folder.picture({70, 30}), m_folder.path("link.png")));
+    QCOMPARE(MediaFile::readPicture(m_folder.path("link.png")).size(), QSize(70, 30));
+}
+
+void tst_MediaFile::readsNothingElse_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::newRow("null") << QString();
+    QTest::newRow("empty") << "";
+    QTest::newRow("no file") << m_folder.path("missing");
+    QTest::newRow("a folder") << m_folder.path("");
+    QTest::newRow("the folder here") << ".";
+    QTest::newRow("empty file") << m_folder.file("empty", "");
+    QTest::newRow("text") << m_folder.file("text", "no picture at all");
+    QTest::newRow("an endless device") << "/dev/zero";
+    QTest::newRow("an empty device") << "/dev/null";
+    QTest::newRow("a terminal") << "/dev/tty";
+    QTest::newRow("a file that the system makes up") << "/proc/self/status";
+    QTest::newRow("a long name") << QString(100000, 'a');
+    QTest::newRow("a name with a nul") << QString("a") + QChar(0) + "b";
+    QTest::newRow("an address") << "http://example.invalid/logo.png";
+}
+
+void tst_MediaFile::readsNothingElse()
+{
+    QFETCH(QString, path);
+    for (int i = 0; i < 2 && path.contains(QChar(0)); ++i)
+        expectWarning("Broken filename");
+    QVERIFY(MediaFile::readPicture(path).isNull());
+    QVERIFY(!MediaFile::readMovie(path));
+}
+
+void tst_MediaFile::readsNoPipe()
+{
+#ifdef Q_OS_UNIX
+    // Nobody ever writes into it.
+    QCOMPARE(mkfifo(qPrintable(m_folder.path("pipe.png")), 0600), 0);
+    QVERIFY(QFile::link(m_folder.path("pipe.png"), m_folder.path("pipe.gif")));
+    for (const char *name : {"pipe.png", "pipe.gif"}) {
+        QVERIFY(MediaFile::readPicture(m_folder.path(name)).isNull());
+        QVERIFY(!MediaFile::readMovie(m_folder.path(name)));
+    }
+#else
+    QSKIP("no named pipes in folders here");
+#endif
+}
+
+void tst_MediaFile::readsNoFileBeyondMeasure()
+{
+    // The rest of the file is a hole.
+    const QString path = m_folder.picture({70, 30}, "large.png");
+    QVERIFY(QFile::resize(path, MediaFile::maximumBytes));
+    QCOMPARE(MediaFile::readPicture(path).size(), QSize(70, 30));
+    QVERIFY(QFile::resize(path, MediaFile::maximumBytes + 1));
+    QVERIFY(MediaFile::readPicture(path).isNull());
+    QVERIFY(!MediaFile::readMovie(path));
+}
+
+void tst_MediaFile::readsNoPictureBeyondMeasure_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("PNG of 60,000") << pngOfSize(60000, 60000);
+    QTest::newRow("PNG of one pixel more") << pngOfSize(8192, 8193);
+    QTest::newRow("PNG, wide") << pngOfSize(1000000, 1000);
+    QTest::newRow("BMP of 60,000") << bmpOfSize(60000, 60000);
+    QTest::newRow("BMP of 30,000 from the top") << bmpOfSize(30000, -30000);
+    QTest::newRow("GIF of 60,000") << gifOfSize(60000, 60000);
+    QTest::newRow("GIF of 16,000") << gifOfSize(16000, 16000);
+    QTest::newRow("PPM of 60,000") << QByteArray("P6 60000 60000 255\n") + QByteArray(100, 'x');
+    QTest::newRow("PPM of two thousand million") << QByteArray("P6 2147483647 2147483647 255\n");
+    QTest::newRow("XPM of 60,000") << QByteArray(
+        "/* XPM */\nstatic char *x[] = {\n\"60000 60000 2 1\",\n\"a c #000000\",\n");
+}
+
+void tst_MediaFile::readsNoPictureBeyondMeasure()
+{
+    QFETCH(QByteArray, bytes);
+    const QString path = m_folder.file("bomb", bytes);
+    QVERIFY(MediaFile::readPicture(path).isNull());
+    QVERIFY(!MediaFile::readMovie(path));
+}
+
+void tst_MediaFile::readsTheLargestPictureWithinMeasure()
+{
+    QImage white(8192, 8192, QImage::Format_Mono);
+    white.fill(1);
+    const QString path = m_folder.picture(white, "largest.png");
+    QCOMPARE(MediaFile::readPicture(path).size(), white.size());
+    // Movies are read while the window waits, again and again.
+    QVERIFY(!MediaFile::readMovie(path));
+}
+
+void tst_MediaFile::readsNoDrawing()
+{
+    // One that names a file which never answers would be enough to hang.
+    const QByteArray drawing = "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>";
+    for (const char *name : {"drawing.svg", "drawing.png"}) {
+        QVERIFY(MediaFile::readPicture(m_folder.file(name, drawing)).isNull());
+        QVERIFY(!MediaFile::readMovie(m_folder.path(name)));
+    }
+    const QString icon = m_folder.file("icon.ico", encoded(MediaFolder::chequered({16, 16}), "ico"));
+    QVERIFY(MediaFile::readPicture(icon).isNull());
+    QVERIFY(!MediaFile::readMovie(icon));
+}
+
+void tst_MediaFile::survivesTruncation_data()
+{
+    QTest::addColumn<QByteArray>("whole");
+    const QImage image = MediaFolder::chequered({40, 30});
+    for (const char *format : {"png", "bmp", "ppm"})
+        QTest::newRow(format) << encoded(image, format);
+    QTest::newRow("gif") << Gif{{40, 30}, {Qt::red, Qt::green}}.bytes();
+}
+
+void tst_MediaFile::survivesTruncation()
+{
+    QFETCH(QByteArray, whole);
+    for (int length = 0; length < whole.size(); length += 1 + length / 20) {
+        const QString path = m_folder.file("cut", whole.left(length));
+        const QImage picture = MediaFile::readPicture(path);
+        QVERIFY(picture.isNull() || picture.size() == QSize(40, 30));
+        const auto movie = MediaFile::readMovie(path);
+        if (movie)
+            movie->start();
+    }
+}
+
+BOARDWRIGHT_TEST_MAIN(tst_MediaFile)
+#include "tst_mediafile.moc"
