@@ -36,8 +36,9 @@ bool saveToDisk(UpdateMagaer &updates, const QString &name, const QByteArray &by
     QBuffer buffer;
     buffer.setData(bytes);
     buffer.open(QIODevice::ReadOnly);
+    QIODevice *device = &buffer;
     // Not Q_ARG: with a blank before its star the type would have to be normalised first.
-    const QArgument<QIODevice *> data("QIODevice*", &buffer);
+    const QArgument<QIODevice *> data("QIODevice*", device);
     bool isSaved = false;
     QMetaObject::invokeMethod(&updates, "saveToDisk", Q_RETURN_ARG(bool, isSaved), Q_ARG(QString, name),
                               data);
