@@ -2,6 +2,7 @@
 #include "canvas/screenitem.h"
 #include "tests/canvas/shownscreen.h"
 #include "tests/support/boards.h"
+#include "tests/support/dialoganswers.h"
 #include "tests/support/strictmain.h"
 
 #include <QDragEnterEvent>
@@ -27,6 +28,7 @@ private slots:
     void acceptsDragsOfItsFormatOnly_data();
     void acceptsDragsOfItsFormatOnly();
     void dropsAShapeAtTheDropPoint();
+    void dropsAnImageWithoutAskingForItsFile();
     void dropsOntoAnItemAsWell();
     void roundsTheDropPoint_data();
     void roundsTheDropPoint();
@@ -193,6 +195,21 @@ void tst_ScreenNewItems::dropsAShapeAtTheDropPoint()
     QCOMPARE(panels.size(), 0);
     shown.screen.newItem("Shape");
     QCOMPARE(shown.screen.items().last()->name(), QString("Shape 0"));
+}
+
+void tst_ScreenNewItems::dropsAnImageWithoutAskingForItsFile()
+{
+    const DialogAnswers none;
+    ShownScreen shown;
+    QVERIFY(shown.ready);
+    QVERIFY(Drag(itemFormat, "Image Viewer").run(shown.window.windowHandle(), QPointF(120, 80)));
+    QVERIFY(none.areUsedUp());
+    QCOMPARE(namesOf(shown.screen.items()), QStringList(""));
+    ScreenItem *item = shown.screen.items().first();
+    QCOMPARE(item->geometry(), QRect(120, 80, 100, 50));
+    QCOMPARE(item->getValue("Type"), QVariant("Image Viewer"));
+    QCOMPARE(item->getValue("Path"), QVariant(""));
+    QVERIFY(!item->isActive());
 }
 
 void tst_ScreenNewItems::dropsOntoAnItemAsWell()
