@@ -1,5 +1,7 @@
 #include "canvas/itemclipboard.h"
 
+#include "model/layoutfile.h"
+
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QJsonDocument>
@@ -25,5 +27,7 @@ QJsonArray ItemClipboard::items()
     const QMimeData *data = QGuiApplication::clipboard()->mimeData(QClipboard::Clipboard);
     if (!data || !data->hasFormat(format()))
         return {};
-    return QJsonDocument::fromJson(data->data(format())).array();
+    const QByteArray bytes = data->data(format());
+    // Foreign bytes, bounded as those of a file are.
+    return bytes.size() > LayoutFile::maximumBytes ? QJsonArray() : QJsonDocument::fromJson(bytes).array();
 }

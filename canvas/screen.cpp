@@ -30,6 +30,12 @@ constexpr QSize newItemSize(100, 50);
 
 /// Beyond one moved frame in this many, one whole paint is cheaper than many small ones.
 constexpr int framesPerMove = 15;
+
+/// True for an item object of a kind that comes from files.
+bool isReadable(const QJsonValue &value)
+{
+    return ContentFactory::isReadable(value[Keys::type()].toString());
+}
 } // namespace
 
 Screen::Screen(QWidget *parent) : QWidget(parent)
@@ -234,12 +240,11 @@ QString Screen::dragFormat()
 
 ScreenItem *Screen::createItem(const QJsonObject &object)
 {
-    const QString type = object.value(Keys::type()).toString();
-    if (isFull() || !ContentFactory::isReadable(type))
+    if (isFull() || !isReadable(object))
         return nullptr;
     auto *item = new ScreenItem(this);
     resizeNow(item, newItemSize);
-    ContentFactory::create(type, item)->show();
+    ContentFactory::create(object.value(Keys::type()).toString(), item)->show();
     item->show();
     QJsonObject remaining = object;
     item->fromJson(remaining);
@@ -248,9 +253,7 @@ ScreenItem *Screen::createItem(const QJsonObject &object)
 
 QList<ScreenItem *> Screen::createItems(const QJsonArray &objects)
 {
-    const auto readable = std::count_if(objects.begin(), objects.end(), [](const QJsonValue &object) {
-        return ContentFactory::isReadable(object.toObject().value(Keys::type()).toString());
-    });
+    const auto readable = std::count_if(objects.begin(), objects.end(), isReadable);
     HiddenWhileFilling hidden(*this, qMin<qptrdiff>(readable, maximumItems - m_items.size()));
     QList<ScreenItem *> made;
     for (const QJsonValue &object : objects) {

@@ -9,10 +9,6 @@
 
 namespace
 {
-/// More than any layout needs. The parser may take 14 times a file's size, so a larger one could exhaust
-/// memory.
-constexpr qint64 maximumBytes = 256 * 1024 * 1024;
-
 QString text(const char *sourceText)
 {
     return QCoreApplication::translate("LayoutFile", sourceText);
@@ -23,7 +19,7 @@ QString whyNotReadable(const QFileInfo &info)
 {
     if (info.exists() && !info.isFile() && !info.isDir())
         return text("The file is not a regular file.");
-    if (info.size() > maximumBytes)
+    if (info.size() > LayoutFile::maximumBytes)
         return text("The file is too large for a layout.");
     return {};
 }

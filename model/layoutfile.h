@@ -6,6 +6,10 @@
 /// The bytes of a layout on disk. What the document says is the canvas's business.
 namespace LayoutFile
 {
+/// More than any layout needs. The parser may take 14 times a document's size, so a larger one could exhaust
+/// memory.
+constexpr int maximumBytes = 256 * 1024 * 1024;
+
 /// The file filter of the file dialogs.
 inline QString filter()
 {

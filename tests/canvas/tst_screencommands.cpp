@@ -7,6 +7,7 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QLineEdit>
 #include <QLoggingCategory>
 #include <QMimeData>
 
@@ -24,9 +25,14 @@ private slots:
     void cutsTheSelection();
     void pastesInPlaceAndSelects();
     void pastesSomeOfAMixture();
+    void deselectsWhenOnlyUnknownKindsArePasted_data();
+    void deselectsWhenOnlyUnknownKindsArePasted();
+    void pastesIntoTheNextLayout();
+    void keepsPastedItemsOnASmallerScreen();
     void ignoresAForeignClipboard_data();
     void ignoresAForeignClipboard();
     void duplicatesTheSelectionOnTop();
+    void duplicatesADuplicate();
     void duplicatesNothingWithoutSelection();
     void deletesTheFrameAndTheSelection();
     void deletesTheFrameItselfLast();
@@ -35,6 +41,9 @@ private slots:
     void movesLayers();
     void ignoresFramesThatAreNotListed();
     void followsTheShortcuts();
+    void leavesTheKeysToAWidgetThatEditsText();
+    void deletesByKeyWhatTheFocusSays_data();
+    void deletesByKeyWhatTheFocusSays();
 
 private:
     QStringList m_destroyed; // names of the frames that are gone, in order
@@ -180,6 +189,57 @@ void tst_ScreenCommands::pastesSomeOfAMixture()
     QVERIFY(board.isConsistent());
 }
 
+void tst_ScreenCommands::deselectsWhenOnlyUnknownKindsArePasted_data()
+{
+    QTest::addColumn<QJsonArray>("items");
+    QTest::newRow("kind that files do not hold") << QJsonArray({QJsonObject({{"Type", "Video Viewer"}})});
+    QTest::newRow("kind of another case") << QJsonArray({QJsonObject({{"Type", "shape"}})});
+    QTest::newRow("kind that is no text") << QJsonArray({QJsonObject({{"Type", 1}})});
+    QTest::newRow("no kind") << QJsonArray({QJsonObject()});
+    QTest::newRow("no objects") << QJsonArray({1, "Shape", QJsonArray({"Shape"}), QJsonValue::Null});
+}
+
+void tst_ScreenCommands::deselectsWhenOnlyUnknownKindsArePasted()
+{
+    QFETCH(QJsonArray, items);
+    Board board;
+    board.select({"B", "A"});
+    ItemClipboard::put(items);
+    board.pasteShortcutActivated();
+    QCOMPARE(board.layers(), QStringList({"A", "B", "C", "D"}));
+    QVERIFY(board.selected().isEmpty());
+    QVERIFY(board.isConsistent());
+    QVERIFY(!board.isModified());
+}
+
+void tst_ScreenCommands::pastesIntoTheNextLayout()
+{
+    Board screen;
+    screen.select({"D", "B"});
+    const QJsonArray copied = {screen.item("B")->toJson(), screen.item("D")->toJson()};
+    screen.copyShortcutActivated();
+    screen.loadLayout(board({shapeObject("X", QRect(0, 0, 20, 20))}));
+    screen.pasteShortcutActivated();
+    QCOMPARE(screen.layers(), QStringList({"X", "B", "D"}));
+    QCOMPARE(screen.saveLayout().value("items").toArray().at(1), copied.at(0));
+    QCOMPARE(screen.saveLayout().value("items").toArray().at(2), copied.at(1));
+    QVERIFY(screen.isModified());
+}
+
+void tst_ScreenCommands::keepsPastedItemsOnASmallerScreen()
+{
+    Board board;
+    board.select({"D"});
+    board.copyShortcutActivated();
+    Screen smaller;
+    smaller.setWidgth(120);
+    smaller.setHeight(60);
+    smaller.pasteShortcutActivated();
+    // At the place that it had, cut where the screen ends.
+    QCOMPARE(smaller.items().first()->geometry(), QRect(70, 40, 60, 20));
+    QCOMPARE(smaller.selection(), smaller.items());
+}
+
 void tst_ScreenCommands::ignoresAForeignClipboard_data()
 {
     QTest::addColumn<QString>("format");
@@ -215,6 +275,19 @@ void tst_ScreenCommands::duplicatesTheSelectionOnTop()
     QCOMPARE(board.items().at(5)->getValues(), board.item("C")->getValues());
     QVERIFY(board.isConsistent());
     QVERIFY(board.isModified());
+}
+
+void tst_ScreenCommands::duplicatesADuplicate()
+{
+    Board board;
+    board.item("C")->setMyName("Logo");
+    board.select({"Logo"});
+    command(board.item("Logo"), "duplicateSlot");
+    QCOMPARE(board.selected(), QStringList("Logo duplicate"));
+    command(board.item("Logo"), "duplicateSlot");
+    QCOMPARE(board.layers(),
+             QStringList({"A", "B", "Logo", "D", "Logo duplicate", "Logo duplicate duplicate"}));
+    QCOMPARE(board.selected(), QStringList("Logo duplicate duplicate"));
 }
 
 void tst_ScreenCommands::duplicatesNothingWithoutSelection()
@@ -329,6 +402,60 @@ void tst_ScreenCommands::followsTheShortcuts()
     strike(Qt::Key_X);
     QTRY_COMPARE(board.layers(), QStringList({"A", "B", "C", "D"}));
     QVERIFY(board.selected().isEmpty());
+}
+
+void tst_ScreenCommands::leavesTheKeysToAWidgetThatEditsText()
+{
+    QWidget window;
+    Board board(&window);
+    QLineEdit neighbour("Home 12", &window);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    board.select({"B"});
+    neighbour.setFocus();
+    const auto strike = [&window](Qt::Key key) {
+        QTest::keyClick(window.windowHandle(), key, Qt::ControlModifier);
+    };
+    for (const Qt::Key key : {Qt::Key_A, Qt::Key_C, Qt::Key_X, Qt::Key_V, Qt::Key_V})
+        strike(key);
+    QCOMPARE(neighbour.text(), QString("Home 12Home 12"));
+    QCOMPARE(QGuiApplication::clipboard()->text(), QString("Home 12"));
+    QCOMPARE(board.selected(), QStringList("B"));
+    QCOMPARE(board.layers(), QStringList({"A", "B", "C", "D"}));
+}
+
+void tst_ScreenCommands::deletesByKeyWhatTheFocusSays_data()
+{
+    QTest::addColumn<QStringList>("selected");
+    QTest::addColumn<QStringList>("layersByKey");
+    QTest::addColumn<QStringList>("selectedAfterKey");
+    QTest::addColumn<QStringList>("layersByCommand");
+    // Only for one selected frame that is not the focused one do the two differ.
+    QTest::newRow("nothing") << QStringList() << QStringList({"A", "C", "D"}) << QStringList()
+                             << QStringList({"A", "C", "D"});
+    QTest::newRow("the focused one") << QStringList("B") << QStringList({"A", "C", "D"}) << QStringList()
+                                     << QStringList({"A", "C", "D"});
+    QTest::newRow("another one") << QStringList("D") << QStringList({"A", "C", "D"}) << QStringList("D")
+                                 << QStringList({"A", "C"});
+    QTest::newRow("two others") << QStringList({"D", "A"}) << QStringList("C") << QStringList()
+                                << QStringList("C");
+}
+
+void tst_ScreenCommands::deletesByKeyWhatTheFocusSays()
+{
+    QFETCH(QStringList, selected);
+    Board byKey;
+    byKey.select(selected);
+    QTest::keyClick(byKey.item("B"), Qt::Key_Delete);
+    deleteScheduled();
+    QTEST(byKey.layers(), "layersByKey");
+    QTEST(byKey.selected(), "selectedAfterKey");
+    Board byCommand;
+    byCommand.select(selected);
+    command(byCommand.item("B"), "deleteSlot");
+    deleteScheduled();
+    QTEST(byCommand.layers(), "layersByCommand");
+    QVERIFY(byCommand.selected().isEmpty());
 }
 
 BOARDWRIGHT_TEST_MAIN(tst_ScreenCommands)

@@ -2,6 +2,8 @@
 
 #include <QStringList>
 
+#include <algorithm>
+
 namespace
 {
 QtMessageHandler testLibraryHandler = nullptr;
@@ -10,6 +12,19 @@ QStringList &expectedWarnings()
 {
     static QStringList expected;
     return expected;
+}
+
+QStringList &toleratedWarnings()
+{
+    static QStringList tolerated;
+    return tolerated;
+}
+
+bool isTolerated(const QString &message)
+{
+    const QStringList &parts = toleratedWarnings();
+    return std::any_of(parts.begin(), parts.end(),
+                       [&message](const QString &part) { return message.contains(part); });
 }
 
 bool takeExpected(const QString &message)
@@ -32,7 +47,8 @@ bool isRemarkOfPlatform(const QString &message)
 void failOnWarning(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
     const bool isComplaint = type == QtWarningMsg || type == QtCriticalMsg;
-    if (isComplaint && !isRemarkOfPlatform(message) && !takeExpected(message) && QTest::currentTestFunction())
+    if (isComplaint && !isRemarkOfPlatform(message) && !isTolerated(message) && !takeExpected(message) &&
+        QTest::currentTestFunction())
         QTest::qFail(qPrintable(QStringLiteral("unexpected warning: ") + message), __FILE__, __LINE__);
     if (!isComplaint && testLibraryHandler)
         testLibraryHandler(type, context, message);
@@ -52,4 +68,9 @@ int runStrictly(QObject &test, int argc, char **argv)
 void expectWarning(const QString &part)
 {
     expectedWarnings().append(part);
+}
+
+void tolerateWarnings(const QString &part)
+{
+    toleratedWarnings().append(part);
 }
