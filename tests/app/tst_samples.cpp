@@ -8,7 +8,10 @@
 #include "tests/support/strictmain.h"
 #include "viewers/datafields.h"
 
+#include <QDir>
 #include <QFontInfo>
+#include <QImageReader>
+#include <QMovie>
 #include <QTemporaryDir>
 #include <QTextBlock>
 #include <QTextEdit>
@@ -20,6 +23,7 @@ class tst_Samples : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase();
     void comesOutUnchanged_data() { addSamples(); }
     void comesOutUnchanged();
     void bindsItsTextsToDataFields_data() { addSamples(); }
@@ -32,6 +36,9 @@ private slots:
     void choosesTheAlignmentOfItsTexts();
     void showsItsTextsWhole_data() { addSamples(); }
     void showsItsTextsWhole();
+    void showsItsPicturesAndAnimations_data() { addSamples(); }
+    void showsItsPicturesAndAnimations();
+    void playsABallAndShowsALogo();
 };
 
 namespace
@@ -45,6 +52,17 @@ QList<ScreenItem *> textsOf(const MainWindow &window)
             texts.append(item);
     }
     return texts;
+}
+
+QList<ScreenItem *> mediaOf(const MainWindow &window)
+{
+    QList<ScreenItem *> media;
+    const QList<ScreenItem *> items = window.canvas()->items();
+    for (ScreenItem *item : items) {
+        if (item->content()->getValues().contains("Path"))
+            media.append(item);
+    }
+    return media;
 }
 
 QString stored(const ScreenItem *text, const QString &key)
@@ -76,6 +94,12 @@ QString whatIsCut(const QTextEdit &editor)
     return document.size().height() > editor.height() ? "too high" : QString();
 }
 } // namespace
+
+void tst_Samples::initTestCase()
+{
+    // Where `./run` starts the programs: the samples name their pictures from there.
+    QVERIFY(QDir::setCurrent(BOARDWRIGHT_SOURCE_DIR));
+}
 
 void tst_Samples::comesOutUnchanged()
 {
@@ -176,6 +200,37 @@ void tst_Samples::showsItsTextsWhole()
         const QString cut = whatIsCut(*editor);
         QVERIFY2(cut.isNull(), qPrintable(cut + ": " + editor->toPlainText()));
     }
+}
+
+void tst_Samples::showsItsPicturesAndAnimations()
+{
+    QFETCH(QString, sample);
+
+    MainWindow window(nullptr);
+    window.openFile(sample);
+    const QList<ScreenItem *> media = mediaOf(window);
+    for (const ScreenItem *item : media) {
+        const QString path = stored(item, "Path");
+        QVERIFY2(path.startsWith("samples/media/"), qPrintable(path));
+        QCOMPARE(QImageReader(path).size(), item->size());
+        QImage picture(item->size(), QImage::Format_ARGB32_Premultiplied);
+        picture.fill(Qt::transparent);
+        item->content()->render(&picture, QPoint(), QRegion(), QWidget::DrawChildren);
+        QCOMPARE(picture, QImage(path).convertToFormat(picture.format()));
+    }
+}
+
+void tst_Samples::playsABallAndShowsALogo()
+{
+    QStringList types;
+    for (const char *sample : {"basketball", "perimeter"}) {
+        MainWindow window(nullptr);
+        window.openFile(QString(BOARDWRIGHT_SOURCE_DIR "/samples/%1.lay").arg(sample));
+        QCOMPARE(mediaOf(window).size(), 1);
+        types << stored(mediaOf(window).first(), "Type");
+    }
+    QCOMPARE(types, QStringList({"Image Viewer", "Animation Viewer"}));
+    QVERIFY(QMovie("samples/media/bounce.gif").frameCount() > 10);
 }
 
 BOARDWRIGHT_TEST_MAIN(tst_Samples)

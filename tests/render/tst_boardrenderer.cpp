@@ -6,6 +6,7 @@
 #include "canvas/screenpicture.h"
 #include "tests/support/boards.h"
 #include "tests/support/files.h"
+#include "tests/support/gif.h"
 #include "tests/support/samples.h"
 #include "tests/support/strictmain.h"
 
@@ -32,6 +33,7 @@ private slots:
     void rendersThePixelsOfTheEditor();
     void rendersEverySampleAsTheEditorDoes_data() { addSamples(); }
     void rendersEverySampleAsTheEditorDoes();
+    void showsPicturesAndFirstFrames();
     void choosesTheFormatBySuffix_data();
     void choosesTheFormatBySuffix();
     void leavesOutGridAndBorders();
@@ -187,10 +189,42 @@ void tst_BoardRenderer::rendersEverySampleAsTheEditorDoes()
 {
     QFETCH(QString, sample);
 
+    // The samples name their pictures from here.
+    const QString before = QDir::currentPath();
+    QVERIFY(QDir::setCurrent(BOARDWRIGHT_SOURCE_DIR));
     const Run result = run({sample, path("sample.png")});
+    const QImage shown = editorPictureOf(sample);
+    QVERIFY(QDir::setCurrent(before));
     QCOMPARE(result.errors, QByteArray());
     QCOMPARE(result.code, 0);
-    QCOMPARE(comparable(QImage(path("sample.png"))), comparable(editorPictureOf(sample)));
+    QCOMPARE(comparable(QImage(path("sample.png"))), comparable(shown));
+}
+
+void tst_BoardRenderer::showsPicturesAndFirstFrames()
+{
+    QImage yellow(10, 10, QImage::Format_RGB32);
+    yellow.fill(Qt::yellow);
+    QVERIFY(yellow.save(path("logo.png")));
+    QVERIFY(writeFile(path("movie.gif"), Gif{{10, 10}, {Qt::red, Qt::green}}.bytes()));
+    const QJsonObject still = {
+        {"Type", "Image Viewer"}, {"Path", "logo.png"}, {"X", 0}, {"Y", 0}, {"W", 30}, {"H", 20}};
+    const QJsonObject movie = {
+        {"Type", "Animation Viewer"}, {"Path", "./movie.gif"}, {"X", 30}, {"Y", 0}, {"W", 30}, {"H", 20}};
+    const QJsonObject missing = {
+        {"Type", "Image Viewer"}, {"Path", "gone.png"}, {"X", 60}, {"Y", 0}, {"W", 30}, {"H", 20}};
+    // Relative paths start at the working directory, not at the layout.
+    const QString before = QDir::currentPath();
+    QVERIFY(QDir::setCurrent(m_folder->path()));
+    const Run result = render(bytesOf(board({still, movie, missing})));
+    QVERIFY(QDir::setCurrent(before));
+    QCOMPARE(result.errors, QByteArray());
+    QCOMPARE(result.code, 0);
+    const QImage picture(path("board.png"));
+    QCOMPARE(picture.pixelColor(29, 19), QColor(Qt::yellow));
+    QCOMPARE(picture.pixelColor(30, 0), QColor(Qt::red));
+    QCOMPARE(picture.pixelColor(59, 19), QColor(Qt::red));
+    QCOMPARE(picture.pixelColor(60, 0), QColor(Qt::black));
+    QCOMPARE(picture.pixelColor(30, 20), QColor(Qt::black));
 }
 
 void tst_BoardRenderer::choosesTheFormatBySuffix_data()
