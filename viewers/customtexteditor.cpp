@@ -11,8 +11,6 @@
 #include <QScrollBar>
 #include <QUrl>
 
-#include <memory>
-
 namespace
 {
 constexpr qint64 maximumArea = 4 * 1024 * 1024; // pixels of one picture
@@ -57,10 +55,12 @@ QVariant CustomTextEditor::loadResource(int type, const QUrl &name)
 
 void CustomTextEditor::contextMenuEvent(QContextMenuEvent *event)
 {
-    const std::unique_ptr<QMenu> menu(createStandardContextMenu(event->pos()));
+    QMenu *menu = createStandardContextMenu(event->pos());
+    menu->setAttribute(Qt::WA_DeleteOnClose);
     // The see-through sheet of the area around the canvas reaches down to here.
     menu->setStyleSheet(qApp->styleSheet());
-    menu->exec(event->globalPos());
+    // Not run: the item may go while its menu is open.
+    menu->popup(event->globalPos());
 }
 
 void CustomTextEditor::showEvent(QShowEvent *event)

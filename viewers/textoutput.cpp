@@ -245,11 +245,20 @@ void TextOutput::endReading()
     if (!m_isReading)
         return;
     m_isReading = false;
+    if (TextAlignment::flags(m_horizontal + m_vertical))
+        dressText();
+    else
+        dressWithoutCode();
+}
+
+void TextOutput::dressWithoutCode()
+{
+    // A number that is no code leaves the text where the code before it puts it, seen or not yet.
     const int code = m_horizontal + m_vertical;
-    if (!TextAlignment::flags(code))
-        adoptCode(m_codeBefore);
+    adoptCode(m_codeBefore);
     dressText();
-    // A number that is no code leaves a text where the code before it has put it.
+    if (parentWidget())
+        resizeNow(this, parentWidget()->size());
     adoptCode(code);
     placeText();
 }
@@ -290,15 +299,21 @@ void TextOutput::applyFormat(const QStringList &keys)
     QTextCursor cursor = m_editor->textCursor();
     if (!isEditing())
         cursor.select(QTextCursor::Document);
-    QTextCharFormat style;
-    for (const QString &key : keys)
-        style.merge(TextStyle::charFormat(key, m_values.value(key)));
+    const QTextCharFormat style = styleOf(keys);
     if (!style.isEmpty())
         cursor.mergeCharFormat(style);
     if (keys.contains(TextKeys::aligment()))
         alignParagraphs(cursor);
     if (isEditing())
         m_editor->setTextCursor(cursor);
+}
+
+QTextCharFormat TextOutput::styleOf(const QStringList &keys) const
+{
+    QTextCharFormat style;
+    for (const QString &key : keys)
+        style.merge(TextStyle::charFormat(key, m_values.value(key)));
+    return style;
 }
 
 void TextOutput::finishFormat()
@@ -356,21 +371,25 @@ void TextOutput::setTopMargin(int (*marginFor)(int, int))
     const int documentHeight = int(m_editor->document()->size().height());
     if (documentHeight == 0)
         return;
-    const QSignalBlocker silence(m_editor);
-    QTextFrame *root = m_editor->document()->rootFrame();
-    QTextFrameFormat format = root->frameFormat();
-    const int contentHeight = documentHeight - int(format.topMargin());
-    const int margin = marginFor(contentHeight, m_editor->height());
-    if (format.topMargin() != margin) {
-        format.setTopMargin(margin);
-        root->setFrameFormat(format);
-        // The toolkit does not lay an empty document out anew by itself, and its height would stay as it was.
-        if (m_editor->document()->isEmpty())
-            m_editor->document()->markContentsDirty(0, 1);
-    }
+    const qreal margin = m_editor->document()->rootFrame()->frameFormat().topMargin();
+    const int newMargin = marginFor(documentHeight - int(margin), m_editor->height());
+    if (newMargin != margin)
+        putTopMargin(newMargin);
     // A text that is larger than its item is cut, it does not scroll.
     if (!isEditing())
         m_editor->showBeginning();
+}
+
+void TextOutput::putTopMargin(int margin)
+{
+    const QSignalBlocker silence(m_editor);
+    QTextDocument *document = m_editor->document();
+    QTextFrameFormat format = document->rootFrame()->frameFormat();
+    format.setTopMargin(margin);
+    document->rootFrame()->setFrameFormat(format);
+    // The toolkit does not lay an empty document out anew by itself, and its height would stay as it was.
+    if (document->isEmpty())
+        document->markContentsDirty(0, 1);
 }
 
 bool TextOutput::isEditing() const
@@ -393,18 +412,31 @@ void TextOutput::startEditing()
     m_editor->setFocusPolicy(Qt::StrongFocus);
     m_editor->setFocus(Qt::OtherFocusReason);
     m_editor->setReadOnly(false);
+    styleEmptyText();
     m_editor->moveCursor(QTextCursor::End);
     m_editor->document()->setUndoRedoEnabled(true);
     m_editor->document()->setModified(false);
+}
+
+void TextOutput::styleEmptyText()
+{
+    // For what is typed where there is nothing, or nothing any more.
+    QTextDocument *document = m_editor->document();
+    QTextCursor(document).mergeBlockCharFormat(styleOf(everyFormat()));
+    // The toolkit takes the first paragraph's layout away for that and makes no new one.
+    document->markContentsDirty(0, document->characterCount());
 }
 
 void TextOutput::endEditing()
 {
     if (!isEditing())
         return;
-    m_values.insert(TextKeys::text(), m_editor->toHtml());
+    storeShownText();
     emit valueChanged(TextKeys::text(), m_values.value(TextKeys::text()));
     parentWidget()->removeEventFilter(this);
+    // Otherwise it would go on to any widget of the window.
+    if (m_editor->hasFocus())
+        parentWidget()->setFocus(Qt::OtherFocusReason);
     lodgeEditor(this);
     m_editor->resize(size());
     m_editor->moveCursor(QTextCursor::End);
@@ -434,8 +466,14 @@ void TextOutput::commitEditing()
     QTextDocument *document = m_editor->document();
     if (!isEditing() || !document->isModified())
         return;
-    m_values.insert(TextKeys::text(), m_editor->toHtml());
+    storeShownText();
     document->setModified(false);
+}
+
+void TextOutput::storeShownText()
+{
+    if (m_isShownWhole)
+        m_values.insert(TextKeys::text(), m_editor->toHtml());
 }
 
 bool TextOutput::eventFilter(QObject *watched, QEvent *event)

@@ -6,6 +6,7 @@
 #include <QStringList>
 
 class CustomTextEditor;
+class QTextCharFormat;
 class QTextCursor;
 
 /// The content of a text item: rich text, set and placed by its parameters, and bound to a data field of the
@@ -53,6 +54,8 @@ private:
     void buildEditor();
     bool isEditing() const;
     void startEditing();
+    void styleEmptyText();
+    void storeShownText();
     void lodgeEditor(QWidget *parent);
     void tellEdit(bool isModified);
     void setAlignment(int code);
@@ -64,12 +67,15 @@ private:
     void store(const QString &key, const QVariant &value);
     void showText();
     void dressText();
+    void dressWithoutCode();
     void format(const QString &key);
     void applyFormat(const QStringList &keys);
     void finishFormat();
+    QTextCharFormat styleOf(const QStringList &keys) const;
     void alignParagraphs(QTextCursor &cursor) const;
     void placeText();
     void setTopMargin(int (*marginFor)(int, int));
+    void putTopMargin(int margin);
 
     CustomTextEditor *m_editor = nullptr;
     int m_vertical = TextAlignment::Middle;

@@ -15,3 +15,4 @@ foreach(class animationviewer imagevieweritem mediafile mediaviewer stretchedpic
 endforeach()
 boardwright_add_test(viewers/tst_textformat LINK boardwright_canvas SOURCES ${text_board})
 boardwright_add_test(viewers/tst_mediapanel LINK boardwright_panels)
+boardwright_add_test(viewers/tst_textediting LINK boardwright_canvas SOURCES ${text_board})
