@@ -2,15 +2,13 @@
 #include "canvas/screenitem.h"
 
 #include "tests/canvas/boardfixture.h"
+#include "tests/support/menuuser.h"
 #include "tests/support/strictmain.h"
 
-#include <QMenu>
 #include <QMouseEvent>
-#include <QPointer>
 #include <QScopedPointer>
 #include <QSignalSpy>
 #include <QTest>
-#include <QTimer>
 
 #include <functional>
 
@@ -19,36 +17,6 @@ namespace
 const QRect first(100, 100, 80, 60);
 const QRect second(300, 100, 80, 60);
 
-/// Waits for a menu to open, does something with it and closes it. Does nothing when none opens.
-class MenuUser : public QObject
-{
-public:
-    explicit MenuUser(std::function<void(QMenu &)> use) : m_use(std::move(use))
-    {
-        connect(&m_timer, &QTimer::timeout, this, &MenuUser::look);
-        m_timer.start(0);
-    }
-
-    bool hasSeenMenu() const { return m_seen; }
-
-private:
-    void look()
-    {
-        const QPointer<QMenu> menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
-        if (!menu)
-            return;
-        m_timer.stop();
-        m_seen = true;
-        m_use(*menu);
-        if (menu)
-            menu->close();
-    }
-
-    QTimer m_timer;
-    std::function<void(QMenu &)> m_use;
-    bool m_seen = false;
-};
-
 QStringList texts(const QMenu &menu)
 {
     QStringList result;
@@ -56,12 +24,6 @@ QStringList texts(const QMenu &menu)
     for (const QAction *action : actions)
         result.append(action->text());
     return result;
-}
-
-void choose(QMenu &menu, int entry)
-{
-    const QPoint place = menu.actionGeometry(menu.actions().at(entry)).center();
-    QTest::mouseClick(&menu, Qt::LeftButton, Qt::NoModifier, place);
 }
 
 void sendRightPress(QWidget *widget)

@@ -1,0 +1,109 @@
+#include "tests/app/commandtest.h"
+#include "tests/app/stormuser.h"
+
+#include <QJsonDocument>
+#include <QLoggingCategory>
+
+// Thousands of actions without any plan, and what has to hold after each of them.
+class tst_Storm : public CommandTest
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void leavesTheBoardSound_data();
+    void leavesTheBoardSound();
+
+private:
+    QString complaint() const;
+    QString complaintAboutLoading() const;
+};
+
+namespace
+{
+constexpr int actionsPerSeed = 2500;
+constexpr int actionsPerLoad = 50;
+
+QByteArray saved(Screen &screen)
+{
+    return bytesOf(screen.saveLayout());
+}
+
+QByteArray savedAfterLoading(const QByteArray &layout)
+{
+    Screen screen;
+    screen.loadLayout(QJsonDocument::fromJson(layout).object());
+    return saved(screen);
+}
+
+bool isSelectedOnce(const ScreenItem *item, const QList<ScreenItem *> &selection)
+{
+    return selection.count(const_cast<ScreenItem *>(item)) == (item->isSelected() ? 1 : 0);
+}
+} // namespace
+
+void tst_Storm::initTestCase()
+{
+    QLoggingCategory::setFilterRules("default.debug=false");
+    tolerateWarnings("QFont::setPointSizeF: Point size <= 0");
+}
+
+/// What is wrong with the board; null when nothing is.
+QString tst_Storm::complaint() const
+{
+    // Compared before anything listed is looked into: it might be gone.
+    const QList<ScreenItem *> layers = canvas().items();
+    if (canvas().findChildren<ScreenItem *>(QString(), Qt::FindDirectChildrenOnly) != layers)
+        return "the layers are not the frames in their stacking order";
+    const QList<ScreenItem *> selection = canvas().selection();
+    for (const ScreenItem *item : selection) {
+        if (!layers.contains(const_cast<ScreenItem *>(item)))
+            return "a selected frame is no layer";
+    }
+    for (const ScreenItem *item : layers) {
+        if (!isSelectedOnce(item, selection))
+            return "a frame's flag is not its membership in the selection";
+        if (!item->content() || item->content()->geometry().size() != item->size())
+            return "a content does not fill its frame";
+    }
+    return QApplication::activePopupWidget() || QApplication::activeModalWidget() ? "a dialog is open"
+                                                                                  : QString();
+}
+
+/// The first load may hold items to the canvas.
+QString tst_Storm::complaintAboutLoading() const
+{
+    const QByteArray once = savedAfterLoading(saved(canvas()));
+    const QByteArray twice = savedAfterLoading(once);
+    return once == twice ? QString() : "a load changes a loaded board:\n" + once + "\ninto\n" + twice;
+}
+
+void tst_Storm::leavesTheBoardSound_data()
+{
+    QTest::addColumn<quint32>("seed");
+    const quint32 first =
+        qEnvironmentVariableIsSet("STORM_SEED") ? quint32(qEnvironmentVariableIntValue("STORM_SEED")) : 1;
+    for (quint32 seed = first; seed < first + 4; ++seed)
+        QTest::addRow("seed %u", seed) << seed;
+}
+
+void tst_Storm::leavesTheBoardSound()
+{
+    QFETCH(quint32, seed);
+    window().resize(1400, 1000);
+    StormUser user(window(), seed);
+    for (int count = 1; count <= actionsPerSeed; ++count) {
+        user.act();
+        QString wrong = complaint();
+        if (wrong.isNull() && count % actionsPerLoad == 0)
+            wrong = complaintAboutLoading();
+        if (!wrong.isNull())
+            QFAIL(qPrintable(QString("seed %1, action %2: %3\n%4")
+                                 .arg(seed)
+                                 .arg(count)
+                                 .arg(wrong, user.lastActions().join('\n'))));
+    }
+}
+
+BOARDWRIGHT_TEST_MAIN(tst_Storm)
+#include "tst_storm.moc"
