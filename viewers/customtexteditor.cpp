@@ -26,7 +26,7 @@ QImage leftOut()
 /// The bytes in a "data:" address; empty when they are not written in base 64.
 QByteArray carriedBytes(const QUrl &address)
 {
-    const QByteArray data = address.toString(QUrl::RemoveScheme | QUrl::FullyDecoded).toLatin1();
+    const QByteArray data = address.path(QUrl::FullyDecoded).toLatin1();
     const int comma = data.indexOf(',');
     return comma > 0 && data.left(comma).endsWith(";base64") ? QByteArray::fromBase64(data.mid(comma + 1))
                                                              : QByteArray();
@@ -40,6 +40,20 @@ QImage carriedImage(const QUrl &address)
     const QSize size = reader.size();
     const bool isBounded = size.isValid() && qint64(size.width()) * size.height() <= maximumArea;
     return isBounded ? reader.read() : QImage();
+}
+/// Plain text as the markup that it becomes.
+QString markupOf(const QString &text)
+{
+    return text.toHtmlEscaped().replace(QLatin1Char('\n'), QLatin1String("</span></p><p><span>"));
+}
+
+/// What the toolkit would insert, in its order of preference.
+QString markupOf(const QMimeData &source)
+{
+    const QString ownFormat = QStringLiteral("application/x-qrichtext");
+    if (source.hasFormat(ownFormat))
+        return QString::fromUtf8(source.data(ownFormat));
+    return source.hasHtml() ? source.html() : markupOf(source.text());
 }
 } // namespace
 
@@ -78,9 +92,9 @@ void CustomTextEditor::showBeginning()
 
 void CustomTextEditor::insertFromMimeData(const QMimeData *source)
 {
-    const QString markup = source->hasHtml() ? source->html() : source->text().toHtmlEscaped();
-    if (RichText::isShowable(markup))
+    // What is there already counts as well: a text that grows beyond its limits could not be opened again.
+    if (RichText::isShowable(toHtml() + markupOf(*source)))
         QTextEdit::insertFromMimeData(source);
     else
-        insertPlainText(RichText::excerpt(source->hasText() ? source->text().toHtmlEscaped() : markup));
+        insertPlainText(RichText::excerpt(source->hasText() ? markupOf(source->text()) : markupOf(*source)));
 }

@@ -9,6 +9,6 @@ namespace RichText
 /// True when the HTML is of a size and depth that is read and laid out in next to no time.
 bool isShowable(const QString &html);
 
-/// The beginning of a text that is not showable, without any markup.
+/// The beginning of a text that is not showable, as plain text: without markup and style sheets.
 QString excerpt(const QString &html);
 } // namespace RichText

@@ -1,0 +1,319 @@
+#include "viewers/customtexteditor.h"
+
+#include "canvas/screen.h"
+#include "canvas/screenitem.h"
+#include "tests/support/files.h"
+#include "tests/support/strictmain.h"
+#include "tests/viewers/textboard.h"
+
+#include <QApplication>
+#include <QBuffer>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QDataStream>
+#include <QJsonArray>
+#include <QMenu>
+#include <QMimeData>
+#include <QPointer>
+#include <QTcpServer>
+#include <QTemporaryDir>
+#include <QTextBlock>
+
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#endif
+
+namespace
+{
+/// A picture of one colour as an address that carries it.
+QString carried(QSize size, const char *format = "png")
+{
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    QBuffer buffer;
+    image.save(&buffer, format);
+    return QString("data:image/%1;base64,").arg(format) + buffer.data().toBase64();
+}
+
+QSize sizeOf(CustomTextEditor &editor, const QString &address)
+{
+    return editor.loadResource(QTextDocument::ImageResource, QUrl(address)).value<QImage>().size();
+}
+
+/// The header of a bitmap that claims this size.
+QString claiming(qint32 width, qint32 height)
+{
+    QByteArray bytes("BM");
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::Append);
+    QDataStream stream(&buffer);
+    stream.setByteOrder(QDataStream::LittleEndian);
+    stream << quint32(58) << quint32(0) << quint32(54) << quint32(40) << width << height << quint16(1)
+           << quint16(24) << quint32(0) << quint32(0) << quint32(0) << quint32(0) << quint32(0) << quint32(0)
+           << quint32(0);
+    return "data:image/bmp;base64," + bytes.toBase64();
+}
+
+/// Every way in which HTML can ask for something at an address.
+QStringList askingFor(const QString &address)
+{
+    QStringList pages;
+    for (const char *page :
+         {"<img src='%1'>", "<img src='%1' width=30 height=30 align=left>", "<body background='%1'>x",
+          "<p style=\"background-image:url('%1')\">x</p>",
+          "<table background='%1'><tr><td>x</td></tr></table>", "<link rel='stylesheet' href='%1'><p>x</p>",
+          "<style>@import url('%1'); p{background:url('%1')}</style><p>x</p>",
+          "<style>li{list-style-image:url('%1')}</style><ul><li>x</ul>", "<a href='%1'>x</a>"})
+        pages << QString(page).arg(address);
+    return pages;
+}
+
+/// Shows the HTML from a layout file, in the clipboard's way and in a picture.
+void show(const QString &html)
+{
+    TextBoard board;
+    board.screen()->loadLayout({{"items", QJsonArray{textObject("Text", {0, 0, 200, 100}, {{"Text", html}})}},
+                                {"parameters", QJsonObject{{"Width", 300}, {"Height", 200}}}});
+    ScreenItem *frame = board.screen()->items().at(0);
+    QVERIFY(!board.screen()->grab().isNull());
+    QVERIFY(board.isReady());
+    board.startEditing(frame);
+    auto *data = new QMimeData;
+    data->setHtml(html);
+    QGuiApplication::clipboard()->setMimeData(data);
+    board.type(Qt::Key_V, Qt::ControlModifier);
+    QVERIFY(!board.screen()->grab().isNull());
+}
+} // namespace
+
+class tst_CustomTextEditor : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void isTheToolkitsEditor();
+
+    void showsPicturesThatTheTextCarries_data();
+    void showsPicturesThatTheTextCarries();
+    void leavesOutEverythingElse_data();
+    void leavesOutEverythingElse();
+    void hasNoOtherResources();
+    void asksNoServer();
+    void opensNoFile();
+
+    void standsAnyText_data();
+    void standsAnyText();
+
+    void pastesWhatCanBeShown();
+    void pastesTheBeginningOfTooMuch_data();
+    void pastesTheBeginningOfTooMuch();
+    void pastesNoMoreThanCanBeOpenedAgain();
+    void contextMenuIsDressedAndGoes();
+};
+
+void tst_CustomTextEditor::isTheToolkitsEditor()
+{
+    CustomTextEditor editor;
+    QCOMPARE(editor.metaObject()->className(), "CustomTextEditor");
+    QCOMPARE(editor.metaObject()->superClass(), &QTextEdit::staticMetaObject);
+    editor.setHtml("<b>x</b>");
+    QCOMPARE(editor.toPlainText(), QString("x"));
+}
+
+void tst_CustomTextEditor::showsPicturesThatTheTextCarries_data()
+{
+    QTest::addColumn<QString>("address");
+
+    QTest::newRow("png") << carried({7, 5});
+    QTest::newRow("bmp") << carried({7, 5}, "bmp");
+    QTest::newRow("jpeg") << carried({7, 5}, "jpeg");
+    QTest::newRow("scheme in capitals") << "DATA:" + carried({7, 5}).mid(5);
+    QTest::newRow("escaped") << carried({7, 5}).replace("/", "%2F").replace("+", "%2B").replace("=", "%3D");
+}
+
+void tst_CustomTextEditor::showsPicturesThatTheTextCarries()
+{
+    QFETCH(QString, address);
+    CustomTextEditor editor;
+    QCOMPARE(sizeOf(editor, address), QSize(7, 5));
+    editor.setHtml(QString("<img src='%1'>").arg(address));
+    QVERIFY(editor.document()->idealWidth() >= 7);
+}
+
+void tst_CustomTextEditor::leavesOutEverythingElse_data()
+{
+    QTest::addColumn<QString>("address");
+
+    QTest::newRow("nothing") << "";
+    QTest::newRow("no picture") << "data:image/png;base64,AAAA";
+    QTest::newRow("no base 64") << "data:image/png,abc";
+    QTest::newRow("no comma") << "data:image/png;base64";
+    QTest::newRow("huge header") << claiming(60000, 60000);
+    QTest::newRow("largest header") << claiming(2147483647, 2147483647);
+    QTest::newRow("a little too large") << claiming(4096, 1025);
+    QTest::newRow("server") << "http://localhost/x.png";
+    QTest::newRow("file") << "file:///etc/hostname";
+    QTest::newRow("path") << "/usr/share/pixmaps/x.png";
+    QTest::newRow("relative path") << "x.png";
+    QTest::newRow("resource") << ":/assets/interface/text.png";
+    QTest::newRow("resource by scheme") << "qrc:/assets/interface/text.png";
+}
+
+void tst_CustomTextEditor::leavesOutEverythingElse()
+{
+    QFETCH(QString, address);
+    CustomTextEditor editor;
+    const QVariant left = editor.loadResource(QTextDocument::ImageResource, QUrl(address));
+    // Not null: the toolkit would look for the picture by itself.
+    QVERIFY(!left.value<QImage>().isNull());
+    QCOMPARE(left.value<QImage>().size(), QSize(1, 1));
+    QCOMPARE(left.value<QImage>().pixelColor(0, 0).alpha(), 0);
+}
+
+void tst_CustomTextEditor::hasNoOtherResources()
+{
+    CustomTextEditor editor;
+    for (const int type : {int(QTextDocument::HtmlResource), int(QTextDocument::StyleSheetResource),
+                           int(QTextDocument::UserResource)}) {
+        const QVariant resource = editor.loadResource(type, QUrl("file:///etc/hostname"));
+        QVERIFY(resource.isValid() && !resource.isNull());
+        QVERIFY(resource.toByteArray().isEmpty());
+    }
+}
+
+void tst_CustomTextEditor::asksNoServer()
+{
+    QTcpServer server;
+    QVERIFY(server.listen(QHostAddress::LocalHost));
+    const QString address = QString("http://127.0.0.1:%1/picture.png").arg(server.serverPort());
+    const QStringList pages = askingFor(address);
+    for (const QString &page : pages)
+        show(page);
+    QCoreApplication::processEvents();
+    QVERIFY(!server.hasPendingConnections());
+}
+
+void tst_CustomTextEditor::opensNoFile()
+{
+#ifdef Q_OS_UNIX
+    // Nobody ever writes into it: whoever opens it waits for ever.
+    const QTemporaryDir folder;
+    QCOMPARE(mkfifo(qPrintable(folder.filePath("pipe.png")), 0600), 0);
+    for (const QString &address : {folder.filePath("pipe.png"), "file://" + folder.filePath("pipe.png"),
+                                   QString("file:///dev/zero"), QString("/dev/zero")}) {
+        const QStringList pages = askingFor(address);
+        for (const QString &page : pages)
+            show(page);
+    }
+    QVERIFY(writeFile(folder.filePath("red.png"),
+                      QByteArray::fromBase64(carried({50, 50}).section(',', 1).toLatin1())));
+    CustomTextEditor editor;
+    editor.setHtml(QString("<img src='%1'>").arg(folder.filePath("red.png")));
+    QVERIFY(editor.document()->idealWidth() < 50);
+#else
+    QSKIP("no named pipes in folders here");
+#endif
+}
+
+void tst_CustomTextEditor::standsAnyText_data()
+{
+    QTest::addColumn<QString>("html");
+
+    QTest::newRow("nothing") << "";
+    QTest::newRow("zero characters") << QString(100, QChar(0));
+    QTest::newRow("megabytes") << QString("<p>much</p>").repeated(500000);
+    QTest::newRow("megabytes of one word") << QString(5000000, 'x');
+    QTest::newRow("brackets") << QString(1000000, '<');
+    QTest::newRow("unclosed tags") << QString("<b><i><p><table><tr>").repeated(5);
+    QTest::newRow("tables in tables") << QString("<table><tr><td>x<td>").repeated(1000);
+    QTest::newRow("huge spans") << "<table><tr><td colspan=2147483647 rowspan=2147483647>x";
+    QTest::newRow("huge padding") << "<table cellpadding=2000000000><tr><td>x</table>";
+    QTest::newRow("huge spacing") << "<table cellspacing=2000000000><tr><td>x</table>";
+    QTest::newRow("huge lengths")
+        << "<p style='margin:1e9px; text-indent:-1e9px; line-height:1e9; letter-spacing:1e9px'>x y";
+    QTest::newRow("huge picture") << "<img src='x' width=2000000000 height=2000000000>";
+    QTest::newRow("many floats") << QString("<img src='x' align='left'>").repeated(1900);
+    QTest::newRow("picture with a huge header") << QString("<img src='%1'>").arg(claiming(60000, 60000));
+    QTest::newRow("huge letters") << "<p style='font-size:1000000000px'>x</p>";
+    QTest::newRow("long style sheet") << "<style>" + QString("p b{color:red}").repeated(1000) + "</style>" +
+                                             QString("<b>x</b>").repeated(900);
+    QTest::newRow("directions") << QString(QString("a") + QChar(0x202E) + QChar(0x5D0) + ' ').repeated(3000);
+    QTest::newRow("accents") << QString("a") + QString(QChar(0x301)).repeated(900);
+}
+
+void tst_CustomTextEditor::standsAnyText()
+{
+    QFETCH(QString, html);
+    show(html);
+}
+
+void tst_CustomTextEditor::pastesWhatCanBeShown()
+{
+    CustomTextEditor editor;
+    QGuiApplication::clipboard()->setText("Guest\nHome");
+    editor.paste();
+    QCOMPARE(editor.toPlainText(), QString("Guest\nHome"));
+    auto *rich = new QMimeData;
+    rich->setHtml("<b>Home</b>");
+    rich->setText("plain");
+    QGuiApplication::clipboard()->setMimeData(rich);
+    editor.selectAll();
+    editor.paste();
+    QCOMPARE(editor.toPlainText(), QString("Home"));
+    QCOMPARE(editor.textCursor().charFormat().fontWeight(), 75);
+}
+
+void tst_CustomTextEditor::pastesTheBeginningOfTooMuch_data()
+{
+    QTest::addColumn<QString>("format");
+    QTest::addColumn<QString>("content");
+    QTest::addColumn<QString>("beginning");
+
+    const QString page = "<style>p{}</style>" + QString("<p>a &lt; b</p>").repeated(50000);
+    QTest::newRow("html") << "text/html" << page << "a < b\na < b\n";
+    QTest::newRow("own format") << "application/x-qrichtext" << page << "a < b\na < b\n";
+    QTest::newRow("plain text") << "text/plain" << QString("a < b & c\n").repeated(50000)
+                                << "a < b & c\na < b & c\n";
+}
+
+void tst_CustomTextEditor::pastesTheBeginningOfTooMuch()
+{
+    QFETCH(QString, format);
+    QFETCH(QString, content);
+    QFETCH(QString, beginning);
+    CustomTextEditor editor;
+    auto *data = new QMimeData;
+    data->setData(format, content.toUtf8());
+    QGuiApplication::clipboard()->setMimeData(data);
+    editor.paste();
+    QVERIFY2(editor.toPlainText().startsWith(beginning), qPrintable(editor.toPlainText().left(50)));
+    QVERIFY(editor.toPlainText().size() <= 1001);
+}
+
+void tst_CustomTextEditor::pastesNoMoreThanCanBeOpenedAgain()
+{
+    CustomTextEditor editor;
+    QGuiApplication::clipboard()->setText(QString("line\n").repeated(300));
+    for (int i = 0; i < 3; ++i)
+        editor.paste();
+    QVERIFY(editor.document()->blockCount() > 300);
+    QVERIFY(editor.document()->blockCount() < 900);
+}
+
+void tst_CustomTextEditor::contextMenuIsDressedAndGoes()
+{
+    qApp->setStyleSheet("QMenu{color:red}");
+    CustomTextEditor editor;
+    editor.show();
+    QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(5, 5), editor.mapToGlobal(QPoint(5, 5)));
+    QCoreApplication::sendEvent(editor.viewport(), &event);
+    QPointer<QMenu> menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+    QVERIFY(menu);
+    QCOMPARE(menu->styleSheet(), qApp->styleSheet());
+    QTest::keyClick(menu, Qt::Key_Escape);
+    QTRY_VERIFY(!menu);
+    qApp->setStyleSheet(QString());
+}
+
+BOARDWRIGHT_TEST_MAIN(tst_CustomTextEditor)
+#include "tst_customtexteditor.moc"

@@ -1,0 +1,132 @@
+#include "viewers/richtext.h"
+
+#include "tests/support/strictmain.h"
+
+#include <QTextDocument>
+
+namespace
+{
+QString times(int count, const QString &part)
+{
+    return part.repeated(count);
+}
+} // namespace
+
+class tst_RichText : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void knowsWhatCanBeShown_data();
+    void knowsWhatCanBeShown();
+    void showsWhatAnEditorWrites();
+    void excerptIsReadable_data();
+    void excerptIsReadable();
+    void excerptIsShort_data();
+    void excerptIsShort();
+};
+
+void tst_RichText::knowsWhatCanBeShown_data()
+{
+    QTest::addColumn<QString>("html");
+    QTest::addColumn<bool>("isShowable");
+
+    QTest::newRow("nothing") << "" << true;
+    QTest::newRow("plain") << "Home" << true;
+    QTest::newRow("unclosed tags") << "<b><i>Home<p>Guest" << true;
+    QTest::newRow("lone bracket") << "1 < 2" << true;
+    QTest::newRow("brackets alone") << times(1024 * 1024, "<") << true;
+    QTest::newRow("much text") << times(4096, "abc ") << true;
+    QTest::newRow("too much text") << times(4097, "abc ") << false;
+    QTest::newRow("long word") << times(1000, "x") << true;
+    QTest::newRow("word too long") << times(1001, "x") << false;
+    QTest::newRow("long words") << times(5, times(1000, "x") + "\n") << true;
+    QTest::newRow("word of entities") << times(600, "&#65;") << false;
+    QTest::newRow("many tags") << times(1000, "<b>x</b>") << true;
+    QTest::newRow("too many tags") << times(1001, "<b>x</b>") << false;
+    QTest::newRow("deep") << times(200, "<div>") << true;
+    QTest::newRow("too deep") << times(201, "<div>") << false;
+    QTest::newRow("deep, closed in between") << times(201, "<div></div>") << true;
+    QTest::newRow("closed too often") << times(300, "</div>") + times(201, "<div>") << false;
+    QTest::newRow("never closed") << times(500, "<br><hr/><BR/><meta>") << true;
+    QTest::newRow("tables in tables") << times(6, "<table><tr><td>") << true;
+    QTest::newRow("too many tables in tables") << times(7, "<TABLE><tr><td>") << false;
+    QTest::newRow("tables in a row") << times(50, "<table></table>") << true;
+    QTest::newRow("pictures") << times(200, "<img src='x'>") << true;
+    QTest::newRow("too many pictures") << times(201, "<IMG align='left'>") << false;
+    QTest::newRow("wide table") << "<table width=9999999>" << true;
+    QTest::newRow("table beyond all numbers") << "<table cellspacing=10000000>" << false;
+    QTest::newRow("table with hidden digits") << "<table cellpadding='&#50;000000'>" << false;
+    QTest::newRow("digits elsewhere") << "<img src='data:image/png;base64,12345678901'>" << true;
+    QTest::newRow("megabyte in a tag") << "<p " + times(1024 * 1024 - 4, "a") + ">" << true;
+    QTest::newRow("more than a megabyte") << "<p " + times(1024 * 1024 - 3, "a") + ">" << false;
+}
+
+void tst_RichText::knowsWhatCanBeShown()
+{
+    QFETCH(QString, html);
+    QTEST(RichText::isShowable(html), "isShowable");
+}
+
+void tst_RichText::showsWhatAnEditorWrites()
+{
+    QTextDocument document;
+    document.setHtml("<h1>Score</h1>" + times(300, "<p>line of <b>words</b></p>"));
+    QVERIFY(RichText::isShowable(document.toHtml()));
+}
+
+void tst_RichText::excerptIsReadable_data()
+{
+    QTest::addColumn<QString>("html");
+    QTest::addColumn<QString>("excerpt");
+
+    QTest::newRow("nothing") << ""
+                             << "";
+    QTest::newRow("plain") << "Home"
+                           << "Home";
+    QTest::newRow("markup") << "<b>Ho<i class='a'>me</i></b>"
+                            << "Home";
+    QTest::newRow("paragraphs") << "<p>Home</p><p>Guest</p>"
+                                << "Home\nGuest\n";
+    QTest::newRow("line break") << "Home<BR/>Guest"
+                                << "Home\nGuest";
+    QTest::newRow("head") << "<head><title>x</title><style>p{}</style></head>Home"
+                          << "Home";
+    QTest::newRow("style sheet") << "Home<STYLE type='a'>p, li { }</STYLE> Guest"
+                                 << "Home Guest";
+    QTest::newRow("style sheet that never ends") << "Home<style>p{}"
+                                                 << "Home";
+    QTest::newRow("tag that never ends") << "Home<b Guest"
+                                         << "Home";
+    QTest::newRow("entities") << "1 &lt; 2 &amp;lt; &quot;3&quot;&nbsp;&gt;"
+                              << "1 < 2 &lt; \"3\" >";
+}
+
+void tst_RichText::excerptIsReadable()
+{
+    QFETCH(QString, html);
+    QTEST(RichText::excerpt(html), "excerpt");
+}
+
+void tst_RichText::excerptIsShort_data()
+{
+    QTest::addColumn<QString>("html");
+
+    QTest::newRow("words") << times(100000, "word ");
+    QTest::newRow("paragraphs") << times(100000, "<p>word</p>");
+    QTest::newRow("breaks") << times(100000, "<br>");
+    QTest::newRow("brackets") << times(3000000, "<");
+    QTest::newRow("tags") << times(1000000, "<b>");
+    QTest::newRow("heads") << times(100000, "<head>");
+}
+
+void tst_RichText::excerptIsShort()
+{
+    QFETCH(QString, html);
+    const QString excerpt = RichText::excerpt(html);
+    QVERIFY(excerpt.size() <= 1001);
+    QVERIFY(RichText::isShowable(excerpt.toHtmlEscaped()));
+}
+
+BOARDWRIGHT_TEST_MAIN(tst_RichText)
+#include "tst_richtext.moc"
