@@ -227,7 +227,7 @@ void tst_Samples::playsABallAndShowsALogo()
         MainWindow window(nullptr);
         window.openFile(QString(BOARDWRIGHT_SOURCE_DIR "/samples/%1.lay").arg(sample));
         QCOMPARE(mediaOf(window).size(), 1);
-        types << stored(mediaOf(window).first(), "Type");
+        types << stored(mediaOf(window).at(0), "Type");
     }
     QCOMPARE(types, QStringList({"Image Viewer", "Animation Viewer"}));
     QVERIFY(QMovie("samples/media/bounce.gif").frameCount() > 10);

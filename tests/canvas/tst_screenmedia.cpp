@@ -43,7 +43,7 @@ private:
     static void addKinds();
     QJsonObject mediaObject(const QString &type, const QString &path, const QRect &geometry) const;
 
-    const MediaFolder m_folder;
+    MediaFolder m_folder;
 };
 
 void tst_ScreenMedia::initTestCase()

@@ -66,7 +66,7 @@ private slots:
     void diesWhileItPlays();
 
 private:
-    const MediaFolder m_folder;
+    MediaFolder m_folder;
 };
 
 void tst_AnimationViewer::holdsAnEmptyLabelInItsCorner()

@@ -32,7 +32,7 @@ private slots:
     void paintsWhateverSizeTheMapHolds();
 
 private:
-    const MediaFolder m_folder;
+    MediaFolder m_folder;
 };
 
 void tst_ImageViewerItem::takesTheSizeOfThePicture_data()

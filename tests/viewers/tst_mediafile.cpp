@@ -36,7 +36,7 @@ private slots:
     void survivesTruncation();
 
 private:
-    const MediaFolder m_folder;
+    MediaFolder m_folder;
 };
 
 namespace

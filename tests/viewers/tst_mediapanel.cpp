@@ -61,7 +61,7 @@ private:
     QSpinBox *number(const QString &key) const { return editor(key)->findChild<QSpinBox *>(); }
     PropertyPanel *panel() const { return m_host->findChild<PropertyPanel *>(); }
 
-    const MediaFolder m_folder;
+    MediaFolder m_folder;
     std::unique_ptr<Screen> m_screen;
     std::unique_ptr<QWidget> m_host;
     ScreenItem *m_frame = nullptr;

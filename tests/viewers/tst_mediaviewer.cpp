@@ -10,7 +10,7 @@
 #include "viewers/videovieweritem.h"
 
 #include <QJsonObject>
-#include <QMoveEvent>
+#include <QRegularExpression>
 #include <QSignalSpy>
 
 #include <memory>
@@ -77,12 +77,13 @@ private slots:
 private:
     QString chosenFile() const { return m_folder.movie(QSize(64, 32), "chosen.gif"); }
 
-    const MediaFolder m_folder;
+    MediaFolder m_folder;
     std::unique_ptr<Screen> m_screen;
     ScreenItem *m_frame = nullptr;
     MediaViewer *m_content = nullptr;
     QString m_type;
     QByteArray m_className;
+    QStringList m_heard; // what the frame told, in the test that listens
 };
 
 void tst_MediaViewer::initTestCase_data()
@@ -100,6 +101,7 @@ void tst_MediaViewer::init()
     QFETCH_GLOBAL(QByteArray, className);
     m_type = type;
     m_className = className;
+    m_heard.clear();
     QLoggingCategory::setFilterRules("default.debug=false");
     m_screen = std::make_unique<Screen>();
     m_screen->setWidgth(800);
@@ -257,19 +259,18 @@ void tst_MediaViewer::asksForAnyFile()
 void tst_MediaViewer::storesTheChosenFileThenTellsThenSetsIt()
 {
     const QString path = chosenFile();
-    QStringList heard;
-    connect(m_frame, &ScreenItem::valueChanged, this, [&](const QString &key, const QVariant &value) {
-        const bool isStored = m_content->getValue("Path") == path;
-        heard << QString("%1 %2 %3").arg(key, value.toString(), isStored ? "stored" : "not stored");
+    connect(m_frame, &ScreenItem::valueChanged, this, [this](const QString &key, const QVariant &value) {
+        m_heard
+            << QString("%1 %2, stored %3").arg(key, value.toString(), m_content->getValue("Path").toString());
     });
     DialogAnswers answers;
     answers.choose(path);
     m_content->chooseFile();
     QVERIFY(answers.areUsedUp());
-    QCOMPARE(heard.takeFirst(), "Path " + path + " stored");
+    QCOMPARE(m_heard.takeFirst(), "Path " + path + ", stored " + path);
     QCOMPARE(m_frame->size(), m_type == "Video Viewer" ? QSize(100, 50) : QSize(64, 32));
-    QCOMPARE(heard.isEmpty(), m_type == "Video Viewer");
-    QVERIFY(heard.filter("Path").isEmpty());
+    QCOMPARE(m_heard.isEmpty(), m_type == "Video Viewer");
+    QVERIFY(m_heard.filter(QRegularExpression("^Path")).isEmpty());
 }
 
 void tst_MediaViewer::storesTheAnswerOfTheDialogAsItIs()

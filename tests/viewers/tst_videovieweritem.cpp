@@ -18,7 +18,7 @@ private slots:
     void entersTheCanvasOnNoRoad();
 
 private:
-    const MediaFolder m_folder;
+    MediaFolder m_folder;
 };
 
 void tst_VideoViewerItem::storesThePathAndKeepsItsSize_data()
