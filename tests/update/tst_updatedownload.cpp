@@ -37,6 +37,7 @@ private slots:
     void savesTheBodyOfOtherStatuses();
     void showsEachSslErrorThenTheFailure();
     void saysOnStandardErrorAloneThatAFolderIsInTheWay();
+    void leavesNothingOnAFullDisk_data();
     void leavesNothingOnAFullDisk();
     void escapeDoesNotEndTheBox();
     void runStartsTheSavedFileAndQuits();
@@ -424,11 +425,23 @@ void tst_UpdateDownload::saysOnStandardErrorAloneThatAFolderIsInTheWay()
     QVERIFY(QFileInfo("setup.run").isDir());
 }
 
+void tst_UpdateDownload::leavesNothingOnAFullDisk_data()
+{
+    QTest::addColumn<int>("length");
+    QTest::addColumn<int>("room");
+
+    QTest::newRow("full while writing") << mebibyte << 66000;
+    QTest::newRow("full at the last flush") << 5000 << 4000;
+}
+
 void tst_UpdateDownload::leavesNothingOnAFullDisk()
 {
-    server().give("/setup.run", httpAnswer(QByteArray(mebibyte, 'x')));
+    QFETCH(int, length);
+    QFETCH(int, room);
+
+    server().give("/setup.run", httpAnswer(QByteArray(length, 'x')));
     const StandardError said(outside() + "/said");
-    const FullDisk full(65536 + 1000);
+    const FullDisk full{rlim_t(room)};
     DialogAnswers none;
     download(server().url("/setup.run"), none);
     QVERIFY(said.text().startsWith("Could not open setup.run for writing: "));
