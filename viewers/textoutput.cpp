@@ -259,6 +259,7 @@ void TextOutput::dressWithoutCode()
     dressText();
     if (parentWidget())
         resizeNow(this, parentWidget()->size());
+    sendHeldGeometryEvents(this);
     adoptCode(code);
     placeText();
 }
