@@ -223,8 +223,10 @@ bool UpdateMagaer::saveToDisk(QString filename, QIODevice *data)
         return true;
     std::fprintf(stderr, "Could not open %s for writing: %s\n", qPrintable(filename),
                  qPrintable(file.errorString()));
+    // By its name: the file itself would not be removed while it cannot be flushed.
+    file.close();
     if (isOpen)
-        file.remove();
+        QFile::remove(filename);
     return false;
 }
 
