@@ -17,20 +17,6 @@ constexpr int gridMargin = 4;   // pixels
 constexpr int gridSpacing = 5;  // pixels
 constexpr int labelSpacing = 4; // pixels
 
-/// The editors in a layout that take the focus, those in the rows inside it included.
-QList<QWidget *> editorsIn(const QLayout *layout)
-{
-    QList<QWidget *> editors;
-    for (int i = 0; i < layout->count(); ++i) {
-        QLayoutItem *item = layout->itemAt(i);
-        if (item->layout())
-            editors.append(editorsIn(item->layout()));
-        else if (item->widget() && item->widget()->focusProxy())
-            editors.append(item->widget());
-    }
-    return editors;
-}
-
 /// The editors of a layout and of the layouts in it. An editor is moved with everything in it, but only when
 /// it has a focus policy itself.
 QList<QWidget *> focusStops(const QLayout &layout)
