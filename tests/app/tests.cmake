@@ -10,9 +10,12 @@ boardwright_add_test(app/tst_updatecommand LINK boardwright_commandtest boardwri
 boardwright_add_test(app/tst_flowlayout LINK boardwright_app)
 boardwright_add_test(app/tst_samples LINK boardwright_app)
 boardwright_add_test(app/tst_screencontainer LINK boardwright_app)
-boardwright_add_test(app/tst_storm LINK boardwright_commandtest SOURCES app/stormuser.cpp app/stormuser.h)
+boardwright_add_test(app/tst_storm
+    LINK boardwright_commandtest SOURCES app/stormuser.cpp app/stormuser.h TIMEOUT 400)
 boardwright_add_test(app/tst_program RUNS boardwright)
 boardwright_add_test(app/x11/tst_realevents SOURCES app/x11/pointer.cpp LINK boardwright_app ON_DISPLAY)
 boardwright_add_test(app/x11/tst_realprogram SOURCES app/x11/pointer.cpp RUNS boardwright ON_DISPLAY)
 boardwright_add_test(app/x11/tst_realupdate
     SOURCES app/x11/pointer.cpp LINK boardwright_updatetest RUNS boardwright ON_DISPLAY)
+boardwright_add_test(app/x11/tst_twoeditors
+    SOURCES app/x11/editorprocess.cpp app/x11/pointer.cpp LINK boardwright_canvas RUNS boardwright ON_DISPLAY)
