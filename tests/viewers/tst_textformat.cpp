@@ -476,7 +476,7 @@ void tst_TextFormat::placingIsSilent()
     const QSignalSpy documentChanges(one.editor->document(), &QTextDocument::contentsChanged);
     one.text->ValignBottom();
     QCOMPARE(changes.size(), 0);
-    QVERIFY(documentChanges.size() > 0);
+    QVERIFY(!documentChanges.isEmpty());
     QVERIFY(!one.editor->signalsBlocked());
 }
 
