@@ -22,7 +22,7 @@
 
 namespace
 {
-constexpr int mostItems = 30;
+constexpr int mostItems = 20;
 constexpr int logLength = 40;
 
 constexpr int arrows[] = {Qt::Key_Up, Qt::Key_Down, Qt::Key_Left, Qt::Key_Right};
@@ -63,11 +63,11 @@ const QList<StormUser::Action> &StormUser::actions()
         {"drag", 10, &StormUser::drag},
         {"drag a handle", 8, &StormUser::dragHandle},
         {"arrow", 10, &StormUser::strikeArrow},
-        {"Delete", 3, &StormUser::strikeDelete},
+        {"Delete", 2, &StormUser::strikeDelete},
         {"key", 3, &StormUser::strikeAnyKey},
         {"select all", 2, &StormUser::selectAll},
         {"copy", 4, &StormUser::copy},
-        {"cut", 2, &StormUser::cut},
+        {"cut", 1, &StormUser::cut},
         {"paste", 4, &StormUser::paste},
         {"paste foreign", 3, &StormUser::pasteForeign},
         {"command", 5, &StormUser::callCommand},
@@ -75,7 +75,7 @@ const QList<StormUser::Action> &StormUser::actions()
         {"layer tool bar", 8, &StormUser::useLayerToolBar},
         {"item bar", 5, &StormUser::addFromItemBar},
         {"drop", 3, &StormUser::drop},
-        {"type into a text", 3, &StormUser::typeIntoText},
+        {"type into a text", 4, &StormUser::typeIntoText},
         {"edit in the column", 8, &StormUser::editInColumn},
         {"edit the screen", 1, &StormUser::editScreen},
         {"load the saved board", 1, &StormUser::loadSavedBoard},
@@ -119,19 +119,18 @@ void StormUser::note(const QString &action)
 QRect StormUser::someGeometry()
 {
     // A few beyond the edges as well.
-    return {below(500) - 20, below(350) - 20, below(200), below(150)};
+    return {below(400) - 20, below(300) - 20, below(200), below(150)};
 }
 
 QPoint StormUser::somePoint()
 {
     const QPoint anywhere(below(m_screen.width()), below(m_screen.height()));
-    return chance(20) ? anywhere : somePointOfItem();
+    return chance(20) ? anywhere : somePointOf(someItem());
 }
 
 /// Within the canvas; where the item is beyond its edge, at the edge.
-QPoint StormUser::somePointOfItem()
+QPoint StormUser::somePointOf(const ScreenItem *item)
 {
-    const ScreenItem *item = someItem();
     if (!item)
         return {0, 0};
     const QPoint point = item->pos() + QPoint(below(qMax(1, item->width())), below(qMax(1, item->height())));
@@ -141,6 +140,16 @@ QPoint StormUser::somePointOfItem()
 ScreenItem *StormUser::someItem()
 {
     return m_screen.items().isEmpty() ? nullptr : m_screen.items().at(below(m_screen.items().size()));
+}
+
+ScreenItem *StormUser::someText()
+{
+    QList<ScreenItem *> texts;
+    for (ScreenItem *item : m_screen.items()) {
+        if (item->getValues().value("Type") == "Text")
+            texts.append(item);
+    }
+    return texts.isEmpty() ? someItem() : texts.at(below(texts.size()));
 }
 
 QString StormUser::someType()
@@ -155,7 +164,9 @@ QJsonObject StormUser::someObject()
     QJsonObject object = shapeObject(QString("Item %1").arg(below(1000)), geometry);
     object.insert("Type", someType());
     object.insert("Text", "<p>Home <b>12</b></p>");
-    object.insert("Alignment", below(6));
+    object.insert("Align_int", 10 * below(5) + below(5));
+    object.insert("Size", 1 + below(30));
+    object.insert("Font", "Arial");
     // Sometimes an incomplete one.
     if (chance(10))
         object.remove(object.keys().at(below(object.size())));
@@ -311,12 +322,12 @@ void StormUser::callCommand()
 
 void StormUser::useContextMenu()
 {
-    const QPoint position = somePointOfItem();
+    const QPoint position = somePointOf(someItem());
     const MenuUser user([this](QMenu &menu) {
         void (Screen::*const commands[])() = {&Screen::deleteSelection, &Screen::pasteShortcutActivated,
                                               &Screen::cutShortcutActivated,
                                               &Screen::selectAllShortcutActivated};
-        for (int count = below(4); count > 0; --count)
+        for (int count = chance(50) ? below(4) : 0; count > 0; --count)
             (m_screen.*commands[below(4)])();
         // The item of the menu itself may be going as well.
         if (chance(15) && qobject_cast<ScreenItem *>(menu.parentWidget()))
@@ -359,10 +370,10 @@ void StormUser::drop()
     QCoreApplication::sendEvent(&m_screen, &event);
 }
 
-/// Into whatever is there; only a text takes it. Half of the time the text is left open.
+/// Unless something else lies above the text. Half of the time the text is left open.
 void StormUser::typeIntoText()
 {
-    const QPoint position = somePointOfItem();
+    const QPoint position = somePointOf(someText());
     press(position);
     release(position);
     QTest::mouseDClick(m_window.windowHandle(), Qt::LeftButton, {}, m_screen.mapTo(&m_window, position));
@@ -412,7 +423,7 @@ void StormUser::loadSavedBoard()
 
 void StormUser::loadOtherBoard()
 {
-    m_screen.loadLayout(board(someObjects(8)));
+    m_screen.loadLayout(board(someObjects(12), {{"Width", someLength()}, {"Height", someLength()}}));
 }
 
 void StormUser::useInRenderMode()

@@ -33,11 +33,12 @@ private:
 
     int below(int limit) { return m_random.bounded(limit); }
     bool chance(int percent) { return below(100) < percent; }
-    int someLength() { return 100 + below(500); }
+    int someLength() { return 100 + below(400); }
     QRect someGeometry();
     QPoint somePoint();
-    QPoint somePointOfItem();
+    QPoint somePointOf(const ScreenItem *item);
     ScreenItem *someItem();
+    ScreenItem *someText();
     QString someType();
     QJsonObject someObject();
     QJsonArray someObjects(int atMost);

@@ -21,7 +21,7 @@ private:
 
 namespace
 {
-constexpr int actionsPerSeed = 2500;
+constexpr int actionsPerSeed = 1300;
 constexpr int actionsPerLoad = 50;
 
 QByteArray saved(Screen &screen)
@@ -81,16 +81,23 @@ QString tst_Storm::complaintAboutLoading() const
 void tst_Storm::leavesTheBoardSound_data()
 {
     QTest::addColumn<quint32>("seed");
-    const quint32 first =
-        qEnvironmentVariableIsSet("STORM_SEED") ? quint32(qEnvironmentVariableIntValue("STORM_SEED")) : 1;
-    for (quint32 seed = first; seed < first + 4; ++seed)
-        QTest::addRow("seed %u", seed) << seed;
+    QTest::addColumn<bool>("hasColumn");
+    // Another storm than the usual one for whoever sets this.
+    const auto first = quint32(qMax(1, qEnvironmentVariableIntValue("BOARDWRIGHT_STORM")));
+    for (quint32 seed = first; seed < first + 8; ++seed) {
+        // The panel of every item that becomes active takes most of the time.
+        const bool hasColumn = seed % 8 == 1;
+        QTest::addRow("seed %u, %s", seed, hasColumn ? "with panels" : "without panels") << seed << hasColumn;
+    }
 }
 
 void tst_Storm::leavesTheBoardSound()
 {
     QFETCH(quint32, seed);
+    QFETCH(bool, hasColumn);
     window().resize(1400, 1000);
+    if (!hasColumn)
+        QVERIFY(disconnect(&canvas(), &Screen::showSettingsFor, nullptr, nullptr));
     StormUser user(window(), seed);
     for (int count = 1; count <= actionsPerSeed; ++count) {
         user.act();
