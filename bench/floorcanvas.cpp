@@ -1,5 +1,8 @@
 #include "bench/floorcanvas.h"
 
+#include "bench/floortext.h"
+
+#include <QCoreApplication>
 #include <QJsonArray>
 #include <QPaintEvent>
 #include <QPainter>
@@ -9,13 +12,15 @@
 /// The border of a selected item: the four dotted lines that the product draws for one.
 class FloorOverlay : public QWidget
 {
+    Q_OBJECT
+
 public:
     explicit FloorOverlay(QWidget *parent) : QWidget(parent)
     {
         setAttribute(Qt::WA_TransparentForMouseEvents);
     }
 
-    void select() { m_selected = true; }
+    void setSelected(bool selected) { m_selected = selected; }
 
 protected:
     void paintEvent(QPaintEvent *event) override
@@ -39,8 +44,13 @@ private:
 
 namespace
 {
+/// Posted events are delivered after so many items: every one that waits makes the next one dearer.
+constexpr int itemsPerDelivery = 200;
+
 class Content : public QWidget
 {
+    Q_OBJECT
+
 public:
     Content(const FloorShape &shape, QWidget *parent) : QWidget(parent), m_shape(shape)
     {
@@ -122,20 +132,24 @@ void paintFloorShape(QPainter &painter, const FloorShape &shape, QSize size)
     }
 }
 
-FloorFrame::FloorFrame(const FloorShape &shape, QWidget *parent)
+FloorFrame::FloorFrame(const QRect &geometry, QWidget *parent)
     : QWidget(parent),
       m_overlay(new FloorOverlay(this))
 {
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(new Content(shape, this));
-    m_overlay->raise();
-    setGeometry(shape.geometry);
+    setGeometry(geometry);
 }
 
-void FloorFrame::select()
+void FloorFrame::setContent(QWidget *content)
 {
-    m_overlay->select();
+    layout()->addWidget(content);
+    m_overlay->raise();
+}
+
+void FloorFrame::setSelected(bool selected)
+{
+    m_overlay->setSelected(selected);
 }
 
 void FloorFrame::resizeEvent(QResizeEvent *event)
@@ -144,10 +158,7 @@ void FloorFrame::resizeEvent(QResizeEvent *event)
     m_overlay->resize(size());
 }
 
-FloorCanvas::FloorCanvas(QWidget *parent) : QWidget(parent)
-{
-    setAttribute(Qt::WA_OpaquePaintEvent);
-}
+FloorCanvas::FloorCanvas(QWidget *parent) : QWidget(parent) {}
 
 void FloorCanvas::load(const QJsonObject &document)
 {
@@ -156,17 +167,38 @@ void FloorCanvas::load(const QJsonObject &document)
     setFixedSize(parameters.value(QStringLiteral("Width")).toInt(),
                  parameters.value(QStringLiteral("Height")).toInt());
     const QJsonArray items = document.value(QStringLiteral("items")).toArray();
-    for (const QJsonValue &item : items)
-        addItem(FloorShape(item.toObject()));
+    for (const QJsonValue &item : items) {
+        addItem(item.toObject());
+        if (m_frames.size() % itemsPerDelivery == 0)
+            QCoreApplication::sendPostedEvents();
+    }
     show();
 }
 
-void FloorCanvas::addItem(const FloorShape &shape)
+void FloorCanvas::addItem(const QJsonObject &object)
 {
-    auto *frame = new FloorFrame(shape, this);
+    FloorFrame *frame = addFrame(geometryOf(object));
+    if (object.value(QStringLiteral("Type")).toString() == QLatin1String("Text")) {
+        frame->setContent(FloorText::create(object, frame));
+    } else {
+        m_shapes.append(FloorShape(object));
+        frame->setContent(new Content(m_shapes.constLast(), frame));
+    }
     frame->show();
+}
+
+FloorFrame *FloorCanvas::addFrame(const QRect &geometry)
+{
+    auto *frame = new FloorFrame(geometry, this);
     m_frames.append(frame);
-    m_shapes.append(shape);
+    return frame;
+}
+
+void FloorCanvas::selectAll(bool selected)
+{
+    for (FloorFrame *frame : qAsConst(m_frames))
+        frame->setSelected(selected);
+    update();
 }
 
 void FloorCanvas::deleteItems()
@@ -182,3 +214,5 @@ void FloorCanvas::paintEvent(QPaintEvent *event)
     QPainter painter(this);
     painter.fillRect(event->rect(), Qt::black);
 }
+
+#include "floorcanvas.moc"

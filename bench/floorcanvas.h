@@ -28,14 +28,19 @@ void paintFloorShape(QPainter &painter, const FloorShape &shape, QSize size);
 
 class FloorOverlay;
 
-/// An item of bare widgets: a frame with a layout, a painted shape and an overlay for the border.
+/// An item of bare widgets: a frame with a layout, a content and an overlay for the border.
 class FloorFrame : public QWidget
 {
-public:
-    FloorFrame(const FloorShape &shape, QWidget *parent);
+    Q_OBJECT
 
-    /// Shows the border from the next paint on.
-    void select();
+public:
+    FloorFrame(const QRect &geometry, QWidget *parent);
+
+    /// Shows the content, whose parent the frame is already.
+    void setContent(QWidget *content);
+
+    /// Shows the border, or shows it no more, from the next paint on.
+    void setSelected(bool selected);
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
@@ -47,6 +52,8 @@ private:
 /// A canvas of bare items.
 class FloorCanvas : public QWidget
 {
+    Q_OBJECT
+
 public:
     explicit FloorCanvas(QWidget *parent = nullptr);
 
@@ -54,7 +61,14 @@ public:
     void load(const QJsonObject &document);
 
     const QVector<FloorFrame *> &frames() const { return m_frames; }
+
+    /// What the shapes among the items are.
     const QVector<FloorShape> &shapes() const { return m_shapes; }
+
+    /// Adds an item, which has no content yet.
+    FloorFrame *addFrame(const QRect &geometry);
+
+    void selectAll(bool selected);
 
     /// Deletes every item when the event loop runs.
     void deleteItems();
@@ -63,7 +77,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    void addItem(const FloorShape &shape);
+    void addItem(const QJsonObject &object);
 
     QVector<FloorFrame *> m_frames;
     QVector<FloorShape> m_shapes;

@@ -1,12 +1,9 @@
 // The least that an editor like this one does at its start, done plainly: the style sheet, every bundled font
 // added by its path, a menu bar and some sixty ordinary widgets.
-#include "assets/assets.h"
+#include "bench/floorapplication.h"
 
 #include <QApplication>
 #include <QComboBox>
-#include <QDir>
-#include <QFile>
-#include <QFontDatabase>
 #include <QGridLayout>
 #include <QMainWindow>
 #include <QMenuBar>
@@ -33,14 +30,7 @@ QWidget *ordinaryWidgets()
 int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);
-    initAssets();
-    QFile sheet(QStringLiteral(":/assets/style/style.qss"));
-    if (sheet.open(QIODevice::ReadOnly))
-        application.setStyleSheet(QString::fromLatin1(sheet.readAll()));
-    const QDir fonts(QStringLiteral(":/assets/fonts"));
-    const QStringList names = fonts.entryList(QDir::Files);
-    for (const QString &name : names)
-        QFontDatabase::addApplicationFont(fonts.filePath(name));
+    dressFloor(application);
     QMainWindow window;
     window.menuBar()->addMenu(QStringLiteral("File"))->addAction(QStringLiteral("Exit"));
     window.setCentralWidget(ordinaryWidgets());

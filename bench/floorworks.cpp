@@ -1,8 +1,9 @@
 // bench-floor WORK NUMBER [NUMBER]: the work of bench-product done with bare widgets and no more.
-#include "assets/assets.h"
 #include "bench/board.h"
-#include "bench/floorcanvas.h"
+#include "bench/floorapplication.h"
 #include "bench/floorcolumn.h"
+#include "bench/floormedia.h"
+#include "bench/floorwindow.h"
 #include "bench/measure.h"
 #include "bench/works.h"
 
@@ -12,7 +13,6 @@
 #include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QMainWindow>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QSaveFile>
@@ -21,50 +21,28 @@
 
 namespace
 {
-class Window : public QMainWindow
-{
-public:
-    Window() : m_canvas(new FloorCanvas)
-    {
-        // The same surroundings as in the editor: a sheet on the canvas's parent makes every polish dearer.
-        auto *host = new QWidget;
-        host->setStyleSheet(QStringLiteral("background:transparent;"));
-        m_canvas->setParent(host);
-        auto *area = new QScrollArea;
-        area->setWidget(host);
-        area->setWidgetResizable(true);
-        setCentralWidget(area);
-        m_canvas->setFixedSize(800, 400);
-        m_canvas->show();
-        resize(1000, 600);
-        show();
-        settle();
-    }
-    FloorCanvas &canvas() { return *m_canvas; }
-
-private:
-    FloorCanvas *m_canvas;
-};
-
 QJsonObject read(const QString &path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(file.readAll()).object() : QJsonObject();
 }
 
+template <BenchBoard::Content content>
 void open(int items, int)
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("board.lay"));
-    BenchBoard::write(path, items, QSize(800, 400));
-    Window window;
+    BenchBoard::write(path, BenchBoard::layout(items, QSize(800, 400), content));
+    FloorWindow window;
+    const double resident = residentMemory();
     report("cpu", cpuOf([&] { window.canvas().load(read(path)); }));
+    report("grown", residentMemory() - resident);
 }
 
 void save(int items, int)
 {
     const QTemporaryDir folder;
-    Window window;
+    FloorWindow window;
     window.canvas().load(BenchBoard::layout(items, QSize(800, 400)));
     settle();
     const QString path = folder.filePath(QStringLiteral("saved.lay"));
@@ -81,11 +59,11 @@ void save(int items, int)
 
 void drag(int items, int moved)
 {
-    Window window;
+    FloorWindow window;
     FloorCanvas &canvas = window.canvas();
     canvas.load(BenchBoard::layout(items, QSize(800, 400)));
     for (int index = 0; index < moved; ++index)
-        canvas.frames().at(index)->select();
+        canvas.frames().at(index)->setSelected(true);
     settle();
     report("cpu", cpuPerTurn(moved == 1 ? 200 : 20, [&](int turn) {
                const QRect before = canvas.frames().first()->geometry();
@@ -105,6 +83,8 @@ void drag(int items, int moved)
 /// Paints the points of the grid that are known to be exposed.
 class GridCanvas : public QWidget
 {
+    Q_OBJECT
+
 public:
     explicit GridCanvas(const QRect &exposed)
     {
@@ -144,10 +124,50 @@ void grid(int width, int height)
 
 void deletion(int items, int)
 {
-    Window window;
+    FloorWindow window;
     window.canvas().load(BenchBoard::layout(items, QSize(800, 400)));
     settle();
     report("cpu", cpuOf([&] { window.canvas().deleteItems(); }));
+}
+
+void selectItems(int items, int)
+{
+    FloorWindow window;
+    FloorCanvas &canvas = window.canvas();
+    canvas.load(BenchBoard::layout(items, QSize(800, 400)));
+    settle();
+    const auto all = [&canvas] {
+        canvas.selectAll(true);
+    };
+    const auto none = [&canvas] {
+        canvas.selectAll(false);
+    };
+    report("all", cpuOfUndone(7, all, none));
+    all();
+    settle();
+    report("none", cpuOfUndone(7, none, all));
+}
+
+void buildAndDelete(int items, int)
+{
+    const QByteArray bytes =
+        QJsonDocument(BenchBoard::layout(items, QSize(800, 400), BenchBoard::Content::Mixed)).toJson();
+    FloorWindow window;
+    report("cpu", cpuOf([&] {
+               window.canvas().load(QJsonDocument::fromJson(bytes).object());
+               window.canvas().deleteItems();
+           }));
+}
+
+void raiseItem(int items, int)
+{
+    FloorWindow window;
+    window.canvas().load(BenchBoard::layout(items, QSize(800, 400)));
+    settle();
+    report("cpu", cpuPerTurn(100, [&window, items](int turn) {
+               window.canvas().frames().at(items / 2 + turn)->raise();
+               QCoreApplication::processEvents();
+           }));
 }
 
 void exportPicture(int width, int height)
@@ -155,7 +175,7 @@ void exportPicture(int width, int height)
     const QSize size(width, height);
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("board.png"));
-    Window window;
+    FloorWindow window;
     window.canvas().load(BenchBoard::layout(1000, size));
     settle();
     report("cpu", cpuPerTurn(3, [&](int) {
@@ -166,7 +186,7 @@ void exportPicture(int width, int height)
 }
 
 /// A column in a dock of the window, as in the editor.
-FloorColumn *addColumn(Window &window)
+FloorColumn *addColumn(FloorWindow &window)
 {
     auto *dock = new QDockWidget;
     auto *column = new FloorColumn;
@@ -178,7 +198,7 @@ FloorColumn *addColumn(Window &window)
 
 void buildPanel(int, int)
 {
-    Window window;
+    FloorWindow window;
     FloorColumn *column = addColumn(window);
     report("cpu", cpuOfUndone(
                       40, [column] { column->buildPanel(); }, [column] { column->dropPanel(); }));
@@ -186,7 +206,7 @@ void buildPanel(int, int)
 
 void switchItems(int, int)
 {
-    Window window;
+    FloorWindow window;
     FloorColumn *column = addColumn(window);
     reportThousand([column](int) {
         column->dropPanel();
@@ -198,16 +218,23 @@ void switchItems(int, int)
 int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);
-    initAssets();
-    QFile sheet(QStringLiteral(":/assets/style/style.qss"));
-    if (sheet.open(QIODevice::ReadOnly))
-        application.setStyleSheet(QString::fromLatin1(sheet.readAll()));
-    return runWork({{"open", open},
+    dressFloor(application);
+    return runWork({{"open-shapes", open<BenchBoard::Content::Shapes>},
+                    {"open-texts", open<BenchBoard::Content::Texts>},
+                    {"open-mixed", open<BenchBoard::Content::Mixed>},
                     {"save", save},
                     {"drag", drag},
                     {"grid", grid},
                     {"delete", deletion},
+                    {"select", selectItems},
+                    {"paste-delete", buildAndDelete},
+                    {"layer", raiseItem},
                     {"export", exportPicture},
                     {"panel", buildPanel},
-                    {"switch", switchItems}});
+                    {"switch", switchItems},
+                    {"paint-picture", paintPicture},
+                    {"read-picture", readPicture},
+                    {"play", playMovies}});
 }
+
+#include "floorworks.moc"

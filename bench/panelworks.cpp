@@ -23,17 +23,6 @@ double cpuOfPanel(SettingsEditor &column, ScreenItem &item)
         40, [&] { column.setActiveItem(&item); }, [&] { column.setActiveItem(nullptr); });
 }
 
-/// Posted, since what is deleted later than a sent event outlives the loop that settles.
-void click(ScreenItem &frame)
-{
-    const QPoint middle = frame.rect().center();
-    const auto post = [&](QEvent::Type type, Qt::MouseButtons buttons) {
-        QCoreApplication::postEvent(&frame, mouseEvent(frame, type, middle, buttons).release());
-    };
-    post(QEvent::MouseButtonPress, Qt::LeftButton);
-    post(QEvent::MouseButtonRelease, Qt::NoButton);
-}
-
 QSpinBox *boxOf(const SettingsEditor &column, const QString &name)
 {
     const auto boxes = column.findChildren<QSpinBox *>();

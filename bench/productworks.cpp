@@ -1,7 +1,10 @@
 // bench-product WORK NUMBER [NUMBER]: one piece of the editor's work, in its main window.
 #include "assets/assets.h"
+#include "bench/contentworks.h"
 #include "bench/measure.h"
+#include "bench/paintcounter.h"
 #include "bench/panelworks.h"
+#include "bench/selectionworks.h"
 #include "bench/session.h"
 #include "bench/works.h"
 #include "canvas/screen.h"
@@ -16,10 +19,13 @@
 
 namespace
 {
+template <BenchBoard::Content content>
 void open(int items, int)
 {
-    Session session(items, QSize(800, 400));
+    Session session(items, QSize(800, 400), content);
+    const double resident = residentMemory();
     report("cpu", cpuOf([&] { session.open(); }));
+    report("grown", residentMemory() - resident);
     if (session.screen().items().size() != items)
         qFatal("not every item was made");
 }
@@ -90,22 +96,6 @@ void grid(int width, int height)
         qFatal("nothing was painted");
 }
 
-void deletion(int items, int)
-{
-    Session session(items, QSize(800, 400));
-    session.open();
-    settle();
-    session.screen().selectAllShortcutActivated();
-    settle();
-    report("cpu", cpuOf([&] {
-               // Posted, since what is deleted later than a sent event outlives the loop that settles.
-               auto *press = new QKeyEvent(QEvent::KeyPress, Qt::Key_Delete, Qt::NoModifier);
-               QCoreApplication::postEvent(session.screen().items().last(), press);
-           }));
-    if (!session.screen().items().isEmpty())
-        qFatal("not every item was deleted");
-}
-
 void exportPicture(int width, int height)
 {
     const QSize size(width, height);
@@ -115,20 +105,30 @@ void exportPicture(int width, int height)
     const QString path = session.file(QStringLiteral("board.png"));
     report("cpu", cpuPerTurn(3, [&](int) { pictureOf(session.screen()).save(path); }));
 }
-
 } // namespace
 
 int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);
     initAssets();
-    return runWork({{"open", open},
+    return runWork({{"open-shapes", open<BenchBoard::Content::Shapes>},
+                    {"open-texts", open<BenchBoard::Content::Texts>},
+                    {"open-mixed", open<BenchBoard::Content::Mixed>},
                     {"save", save},
                     {"drag", drag},
                     {"grid", grid},
-                    {"delete", deletion},
+                    {"delete", deleteItems},
+                    {"select", selectItems},
+                    {"clipboard", useClipboard},
+                    {"paste-delete", pasteAndDelete},
+                    {"layer", moveLayer},
                     {"export", exportPicture},
                     {"panel", buildPanel},
                     {"switch", switchItems},
-                    {"edit", editInSpinBox}});
+                    {"edit", editInSpinBox},
+                    {"edit-text", editText},
+                    {"paint-picture", paintPicture},
+                    {"read-picture", readPicture},
+                    {"play", playMovies},
+                    {"rest", rest}});
 }

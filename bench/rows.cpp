@@ -7,6 +7,9 @@
 
 namespace
 {
+/// Of work that takes ten seconds.
+constexpr int fewRounds = 3;
+
 /// Debug lines are switched off by this; the toolkit reads it.
 QString silence()
 {
@@ -25,8 +28,16 @@ public:
     QVector<Row> take() { return std::move(m_rows); }
 
     void addStart();
-    void addEditing();
+    void addOpening();
+    void addTexts();
+    void addSaving();
     void addDrag();
+    void addGrid();
+    void addSelection();
+    void addDeleting();
+    void addClipboard();
+    void addMedia();
+    void addRest();
     void addPanel();
     void addExport();
     void addRenderer();
@@ -46,7 +57,8 @@ private:
                 double limit);
     void value(int goal, const QString &work, const Probe &probe, double limit);
     void compare(int goal, const QString &work, const QStringList &words, double limit);
-    void growthOf(int goal, const QString &name, int small, int large, double limit);
+    void growthOf(int goal, const QString &name, int small, int large, double limit, const char *key = "cpu");
+    void takeFewRounds() { m_rows.last().rounds = fewRounds; }
 
     QString m_programs;
     QString m_workFolder;
@@ -56,7 +68,7 @@ private:
 QString RowList::layout(int items) const
 {
     QString path = workFile(QStringLiteral("%1.lay").arg(items));
-    BenchBoard::write(path, items, QSize(1920, 1080));
+    BenchBoard::write(path, BenchBoard::layout(items, QSize(1920, 1080)));
     return path;
 }
 
@@ -102,11 +114,15 @@ void RowList::compare(int goal, const QString &work, const QStringList &words, d
           inProcess("bench-product", words, "cpu", {silence()}), inProcess("bench-floor", words), 0);
 }
 
-void RowList::growthOf(int goal, const QString &name, int small, int large, double limit)
+void RowList::growthOf(int goal, const QString &name, int small, int large, double limit, const char *key)
 {
-    growth(goal, QStringLiteral("%1, growth %2 to %3").arg(name).arg(small).arg(large),
-           inProcess("bench-product", {name, QString::number(large)}),
-           inProcess("bench-product", {name, QString::number(small)}), double(large) / small, limit);
+    const auto probe = [this, &name, key](int items) {
+        return inProcess("bench-product", {name, QString::number(items)}, key);
+    };
+    const bool isOneOfMany = qstrcmp(key, "cpu") != 0;
+    const QString work = isOneOfMany ? QStringLiteral("%1, %2").arg(name, QLatin1String(key)) : name;
+    growth(goal, QStringLiteral("%1, growth %2 to %3").arg(work).arg(small).arg(large), probe(large),
+           probe(small), double(large) / small, limit);
 }
 
 void RowList::addStart()
@@ -129,20 +145,110 @@ void RowList::addStart()
     }
 }
 
-void RowList::addEditing()
+void RowList::addOpening()
 {
-    compare(2, QStringLiteral("open 1000"), {QStringLiteral("open"), QStringLiteral("1000")}, 1.5);
-    growthOf(2, QStringLiteral("open"), 1000, 10000, 1.25);
+    compare(2, QStringLiteral("open 1000 mixed"), {QStringLiteral("open-mixed"), QStringLiteral("1000")},
+            1.5);
+    growthOf(2, QStringLiteral("open-mixed"), 1000, 10000, 1.25);
+    compare(2, QStringLiteral("open 1000 shapes"), {QStringLiteral("open-shapes"), QStringLiteral("1000")},
+            1.5);
+}
+
+void RowList::addTexts()
+{
+    compare(3, QStringLiteral("open 1000 texts"), {QStringLiteral("open-texts"), QStringLiteral("1000")},
+            1.4);
+    growthOf(3, QStringLiteral("open-texts"), 1000, 3000, 1.15);
+    const auto edit = [this](const QString &among) {
+        return inProcess("bench-product", {QStringLiteral("edit-text"), among});
+    };
+    ratio(3, QStringLiteral("edit a text in place, among 1000 against alone"), edit(QStringLiteral("1000")),
+          edit(QStringLiteral("1")), 1.2);
+}
+
+void RowList::addSaving()
+{
     compare(4, QStringLiteral("save 1000"), {QStringLiteral("save"), QStringLiteral("1000")}, 1.6);
     growthOf(4, QStringLiteral("save"), 1000, 10000, 1.1);
-    addDrag();
+}
+
+void RowList::addGrid()
+{
     const QStringList small = {QStringLiteral("grid"), QStringLiteral("800"), QStringLiteral("400")};
     const QStringList large = {QStringLiteral("grid"), QStringLiteral("7680"), QStringLiteral("2160")};
     compare(7, QStringLiteral("dot grid, 60x60 exposed"), small, 3);
     ratio(7, QStringLiteral("dot grid, 7680x2160 against 800x400"), inProcess("bench-product", large),
           inProcess("bench-product", small), 1.3);
+}
+
+void RowList::addSelection()
+{
+    const QStringList words = {QStringLiteral("select"), QStringLiteral("1000")};
+    for (const char *key : {"all", "none"}) {
+        ratio(8, QStringLiteral("select %1 of 1000").arg(QLatin1String(key)),
+              inProcess("bench-product", words, key), inProcess("bench-floor", words, key), 1.3);
+        growthOf(8, QStringLiteral("select"), 1000, 3000, 1.1, key);
+    }
+}
+
+void RowList::addDeleting()
+{
     compare(9, QStringLiteral("delete 1000"), {QStringLiteral("delete"), QStringLiteral("1000")}, 1.5);
     growthOf(9, QStringLiteral("delete"), 1000, 10000, 1.2);
+    compare(9, QStringLiteral("paste 1000 mixed and delete them"),
+            {QStringLiteral("paste-delete"), QStringLiteral("1000")}, 1.3);
+    growthOf(9, QStringLiteral("paste-delete"), 1000, 10000, 1.2);
+    compare(9, QStringLiteral("move 1 of 3000 a layer up, against raise()"),
+            {QStringLiteral("layer"), QStringLiteral("3000")}, 3);
+}
+
+void RowList::addClipboard()
+{
+    const QString name = QStringLiteral("clipboard");
+    for (const char *key : {"copy", "paste", "duplicate"}) {
+        for (const char *items : {"1000", "3000"}) {
+            const QStringList words = {name, QLatin1String(items)};
+            ratio(9, QStringLiteral("%1 %2 mixed, against a load").arg(QLatin1String(key), words.last()),
+                  inProcess("bench-product", words, key), inProcess("bench-product", words, "load"), 1.5);
+        }
+        growthOf(9, name, 1000, 3000, 1.2, key);
+    }
+}
+
+void RowList::addMedia()
+{
+    compare(14, QStringLiteral("repaint a picture, against one that is ready"),
+            {QStringLiteral("paint-picture")}, 1.3);
+    compare(14, QStringLiteral("load a picture, against its file read"), {QStringLiteral("read-picture")},
+            1.2);
+    const auto play = [this](const char *name, const QString &movies, const QString &keepsFrames,
+                             const char *key) {
+        return inProcess(name, {QStringLiteral("play"), movies, keepsFrames}, key);
+    };
+    const QString fifty = QStringLiteral("50");
+    const QString ten = QStringLiteral("10");
+    const QString no = QStringLiteral("0");
+    const QString yes = QStringLiteral("1");
+    ratio(14, QStringLiteral("play 50 movies for a second"), play("bench-product", fifty, no, "cpu"),
+          play("bench-floor", fifty, no, "cpu"), 1.3);
+    ratio(14, QStringLiteral("frames of 50 movies, theirs against ours"),
+          play("bench-floor", fifty, no, "frames"), play("bench-product", fifty, no, "frames"), 0);
+    ratio(12, QStringLiteral("play 10 movies, against decoded frames"), play("bench-product", ten, no, "cpu"),
+          play("bench-floor", ten, yes, "cpu"), 1.5);
+}
+
+void RowList::addRest()
+{
+    value(12, QStringLiteral("rest with 1000 mixed for 10 s, CPU ms"),
+          inProcess("bench-product", {QStringLiteral("rest"), QStringLiteral("1000")}), 10);
+    takeFewRounds();
+    for (const char *kind : {"texts", "shapes"}) {
+        const QString name = QStringLiteral("open-") + QLatin1String(kind);
+        const QStringList words = {name, QStringLiteral("1000")};
+        ratio(12, QStringLiteral("memory of 1000 %1, MiB").arg(QLatin1String(kind)),
+              inProcess("bench-product", words, "grown"), inProcess("bench-floor", words, "grown"), 1.3);
+    }
+    growthOf(12, QStringLiteral("open-texts"), 1000, 3000, 1.0, "grown");
 }
 
 void RowList::addDrag()
@@ -178,8 +284,10 @@ void RowList::addPanel()
     const QStringList words = {QStringLiteral("switch"), QStringLiteral("1000")};
     ratio(13, QStringLiteral("1000 switches, last 100 against first"),
           inProcess("bench-product", words, "last"), inProcess("bench-product", words, "first"), 1.05);
+    takeFewRounds();
     ratio(13, QStringLiteral("1000 switches, memory grown"), inProcess("bench-product", words, "grown"),
           inProcess("bench-floor", words, "grown"), 1.25);
+    takeFewRounds();
     const QStringList edit = {QStringLiteral("edit"), QStringLiteral("1000")};
     ratio(13, QStringLiteral("step in a spin box, against what it may"), inProcess("bench-product", edit),
           inProcess("bench-product", edit, "allowed"), 1);
@@ -216,9 +324,18 @@ QVector<Row> benchRows(const QString &programs, const QString &workFolder)
 {
     RowList list(programs, workFolder);
     list.addStart();
-    list.addEditing();
-    list.addPanel();
+    list.addOpening();
+    list.addTexts();
+    list.addSaving();
+    list.addDrag();
+    list.addGrid();
+    list.addSelection();
+    list.addDeleting();
+    list.addClipboard();
     list.addExport();
     list.addRenderer();
+    list.addRest();
+    list.addPanel();
+    list.addMedia();
     return list.take();
 }

@@ -24,6 +24,7 @@ struct Row {
     Measure measure;
     double limit;    ///< 0: no goal, for information
     double span = 0; ///< Growth: how many times larger the work is
+    int rounds = 0;  ///< at most so many rounds, for work that takes long; 0: no limit
 };
 
 /// Every line, in the order of the goals. The programs lie in the folder of this one; the layouts they read

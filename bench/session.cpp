@@ -1,26 +1,30 @@
 #include "bench/session.h"
 
-#include "bench/board.h"
+#include "app/screencontainer.h"
 #include "bench/measure.h"
+#include "canvas/screenitem.h"
 #include "editors/panels/settingseditor.h"
 
 #include <QApplication>
 
-bool PaintCounter::eventFilter(QObject *watched, QEvent *event)
+Session::Session(const QJsonObject &layout) : m_path(m_folder.filePath(QStringLiteral("board.lay")))
 {
-    if (event->type() == QEvent::Paint)
-        ++m_paints;
-    return QObject::eventFilter(watched, event);
-}
-
-Session::Session(int items, QSize canvas) : m_path(m_folder.filePath(QStringLiteral("board.lay")))
-{
-    BenchBoard::write(m_path, items, canvas);
+    BenchBoard::write(m_path, layout);
     // Beside the panels there is room for all of the usual canvas: what is out of sight costs no paint.
     m_window.resize(1400, 700);
     m_window.show();
     QApplication::setActiveWindow(&m_window);
     settle();
+}
+
+Session::Session(int items, QSize canvas, BenchBoard::Content content)
+    : Session(BenchBoard::layout(items, canvas, content))
+{
+}
+
+void Session::show(ScreenItem &item)
+{
+    m_window.findChild<ScreenContainer *>()->ensureWidgetVisible(&item);
 }
 
 SettingsEditor &Session::column()
@@ -34,4 +38,14 @@ std::unique_ptr<QMouseEvent> mouseEvent(const QWidget &widget, QEvent::Type type
     const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
     return std::make_unique<QMouseEvent>(type, local, widget.mapTo(widget.window(), local),
                                          widget.mapToGlobal(local), button, buttons, Qt::NoModifier);
+}
+
+void click(ScreenItem &item)
+{
+    const QPoint middle = item.rect().center();
+    const auto post = [&](QEvent::Type type, Qt::MouseButtons buttons) {
+        QCoreApplication::postEvent(&item, mouseEvent(item, type, middle, buttons).release());
+    };
+    post(QEvent::MouseButtonPress, Qt::LeftButton);
+    post(QEvent::MouseButtonRelease, Qt::NoButton);
 }

@@ -1,35 +1,28 @@
 #pragma once
 
 #include "app/mainwindow.h"
+#include "bench/board.h"
 
 #include <QMouseEvent>
 #include <QTemporaryDir>
 
 #include <memory>
 
+class ScreenItem;
 class SettingsEditor;
-
-/// Counts the paints of the widgets that it filters the events of.
-class PaintCounter : public QObject
-{
-public:
-    int paints() const { return m_paints; }
-
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
-
-private:
-    int m_paints = 0;
-};
 
 /// The editor, painted and quiet, beside a board in a file.
 class Session
 {
 public:
-    Session(int items, QSize canvas);
+    explicit Session(const QJsonObject &layout);
+    Session(int items, QSize canvas, BenchBoard::Content content = BenchBoard::Content::Shapes);
 
     Screen &screen() { return *m_window.canvas(); }
     SettingsEditor &column();
+    /// Scrolls to the item.
+    void show(ScreenItem &item);
+
     QString file(const QString &name) const { return m_folder.filePath(name); }
 
     /// Opens the board, and leaves the painting to the event loop.
@@ -45,3 +38,7 @@ private:
 /// A mouse event at a place of the widget, to be sent or to be posted.
 std::unique_ptr<QMouseEvent> mouseEvent(const QWidget &widget, QEvent::Type type, QPoint local,
                                         Qt::MouseButtons buttons);
+
+/// Posts a click on the middle of the item. Posted, since what is deleted later than a sent event outlives
+/// the loop that settles.
+void click(ScreenItem &item);

@@ -86,8 +86,10 @@ bool measureAndPrint(const QVector<Row> &rows, int rounds)
     for (int turn = 0; turn < rounds; ++turn) {
         std::fprintf(stderr, "round %d of %d\n", turn + 1, rounds);
         Round round;
-        for (int index = 0; index < rows.size(); ++index)
-            takeRow(rows.at(index), round, table[index]);
+        for (int index = 0; index < rows.size(); ++index) {
+            if (rows.at(index).rounds == 0 || turn < rows.at(index).rounds)
+                takeRow(rows.at(index), round, table[index]);
+        }
     }
     std::printf("%4s  %-52s %10s %10s %8s %8s\n", "goal", "work", "ours", "beside", "result", "at most");
     bool met = true;

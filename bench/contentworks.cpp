@@ -1,0 +1,89 @@
+#include "bench/contentworks.h"
+
+#include "bench/measure.h"
+#include "bench/media.h"
+#include "bench/session.h"
+#include "canvas/screen.h"
+#include "canvas/screenitem.h"
+
+#include <QApplication>
+#include <QDebug>
+#include <QTextEdit>
+
+namespace
+{
+constexpr QSize canvasSize(800, 400);
+
+/// So large that hardly any item lies over another, however many there are.
+constexpr QSize wideCanvas(7680, 2160);
+
+ScreenItem &openPicture(Session &session)
+{
+    session.open();
+    session.screen().goToRenderMode();
+    settle();
+    return *session.screen().items().first();
+}
+} // namespace
+
+void editText(int items, int)
+{
+    Session session(items, wideCanvas, BenchBoard::Content::Texts);
+    session.open();
+    ScreenItem &item = *session.screen().items().first();
+    session.show(item);
+    click(item);
+    settle();
+    const auto *editor = item.findChild<QTextEdit *>();
+    const auto open = [&item, editor] {
+        const QPoint middle = item.rect().center();
+        auto press = mouseEvent(item, QEvent::MouseButtonDblClick, middle, Qt::LeftButton);
+        QCoreApplication::postEvent(&item, press.release());
+    };
+    report("cpu", cpuOfUndone(100, open, [&item, editor] {
+               if (editor->isReadOnly() || editor->visibleRegion().isEmpty())
+                   qFatal("the text was not opened");
+               item.content()->endEditing();
+           }));
+}
+
+void paintPicture(int, int)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("picture.png"));
+    BenchMedia::writePicture(path);
+    Session session(BenchBoard::layout(BenchMedia::pictureItem(path), canvasSize));
+    ScreenItem &item = openPicture(session);
+    report("cpu", cpuPerTurn(500, [&item](int) { item.repaint(); }));
+}
+
+void readPicture(int, int)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("picture.png"));
+    BenchMedia::writePicture(path);
+    Session session(BenchBoard::layout(BenchMedia::pictureItem(path), canvasSize));
+    ScreenItem &item = openPicture(session);
+    report("cpu", cpuPerTurn(5, [&](int) { item.content()->setValue(QStringLiteral("Path"), path); }));
+    if (item.size() != BenchMedia::pictureSize.boundedTo(canvasSize))
+        qFatal("the picture was not read");
+}
+
+void playMovies(int movies, int)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("movie.gif"));
+    BenchMedia::writeMovie(path);
+    Session session(BenchBoard::layout(BenchMedia::movieItems(movies, path), canvasSize));
+    session.open();
+    BenchMedia::reportPlaying(session.screen());
+}
+
+void rest(int items, int)
+{
+    Session session(items, canvasSize, BenchBoard::Content::Mixed);
+    session.open();
+    settle(500);
+    // It settles twice, which makes ten seconds.
+    report("cpu", cpuOf([] {}, 5000));
+}

@@ -1,0 +1,18 @@
+#pragma once
+
+// The work of texts, pictures and movies in the editor.
+
+/// Opens a text for editing in place, on a board of so many.
+void editText(int items, int);
+
+/// Repaints a picture that has not changed.
+void paintPicture(int, int);
+
+/// Gives an item the path of a picture.
+void readPicture(int, int);
+
+/// Plays so many movies.
+void playMovies(int movies, int);
+
+/// Leaves a board of so many items alone for ten seconds.
+void rest(int items, int);
