@@ -36,9 +36,9 @@ QByteArray savedAfterLoading(const QByteArray &layout)
     return saved(screen);
 }
 
-bool isSelectedOnce(const ScreenItem *item, const QList<ScreenItem *> &selection)
+bool isSelectedOnce(ScreenItem *item, const QList<ScreenItem *> &selection)
 {
-    return selection.count(const_cast<ScreenItem *>(item)) == (item->isSelected() ? 1 : 0);
+    return selection.count(item) == (item->isSelected() ? 1 : 0);
 }
 } // namespace
 
@@ -56,11 +56,11 @@ QString tst_Storm::complaint() const
     if (canvas().findChildren<ScreenItem *>(QString(), Qt::FindDirectChildrenOnly) != layers)
         return "the layers are not the frames in their stacking order";
     const QList<ScreenItem *> selection = canvas().selection();
-    for (const ScreenItem *item : selection) {
-        if (!layers.contains(const_cast<ScreenItem *>(item)))
+    for (ScreenItem *item : selection) {
+        if (!layers.contains(item))
             return "a selected frame is no layer";
     }
-    for (const ScreenItem *item : layers) {
+    for (ScreenItem *item : layers) {
         if (!isSelectedOnce(item, selection))
             return "a frame's flag is not its membership in the selection";
         if (!item->content() || item->content()->geometry().size() != item->size())

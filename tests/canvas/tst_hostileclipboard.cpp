@@ -53,8 +53,8 @@ private:
 
 namespace
 {
-const auto format = QStringLiteral("Screen/ItemsJson");
-const auto megabyte = 1024 * 1024;
+const char *const format = "Screen/ItemsJson";
+constexpr int megabyte = 1024 * 1024;
 
 QByteArray payload(const QJsonArray &items)
 {
@@ -94,7 +94,8 @@ QJsonArray oneOfEachKind()
 {
     Screen screen;
     QJsonArray objects;
-    for (const auto &type : ContentFactory::clickableTypes())
+    const auto types = ContentFactory::clickableTypes();
+    for (const auto &type : types)
         objects.append(screen.createItem({{"Type", type.first}})->toJson());
     return objects;
 }

@@ -23,7 +23,7 @@ private slots:
 
 namespace
 {
-const auto format = QStringLiteral("Screen/ItemsJson");
+const char *const format = "Screen/ItemsJson";
 
 const QMimeData *clipboardData()
 {

@@ -7,7 +7,7 @@
 namespace
 {
 constexpr int patience = 40000; // milliseconds
-const auto mainTitle = QStringLiteral("Boardwright");
+const char *const mainTitle = "Boardwright";
 } // namespace
 
 EditorProcess::EditorProcess(const QString &program)
