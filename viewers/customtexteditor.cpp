@@ -6,6 +6,7 @@
 #include <QBuffer>
 #include <QContextMenuEvent>
 #include <QImageReader>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QMimeData>
 #include <QScrollBar>
@@ -75,6 +76,13 @@ void CustomTextEditor::contextMenuEvent(QContextMenuEvent *event)
     menu->setStyleSheet(qApp->styleSheet());
     // Not run: the item may go while its menu is open.
     menu->popup(event->globalPos());
+}
+
+void CustomTextEditor::keyPressEvent(QKeyEvent *event)
+{
+    QTextEdit::keyPressEvent(event);
+    if (!isReadOnly())
+        event->accept();
 }
 
 void CustomTextEditor::showEvent(QShowEvent *event)

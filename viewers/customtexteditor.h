@@ -20,6 +20,9 @@ public:
 
 protected:
     void contextMenuEvent(QContextMenuEvent *event) override;
+    /// Keeps every key while the text is edited, shift alone included: the frame would move, be deleted, or
+    /// tell its geometry to the whole selection.
+    void keyPressEvent(QKeyEvent *event) override;
     /// A text that is larger than the editor shows its beginning; the toolkit would look for its cursor.
     void showEvent(QShowEvent *event) override;
     /// Of what is too much to be shown only the beginning is inserted.

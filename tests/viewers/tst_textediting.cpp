@@ -73,6 +73,8 @@ private slots:
     void typesAtTheEnd();
     void secondDoubleClickSelectsAWord();
     void keysOfTheBoardAreTheEditorsOwn();
+    void keysThatTheEditorHasNoUseForGoNowhere_data();
+    void keysThatTheEditorHasNoUseForGoNowhere();
 
     void dragSelectsTextAndMovesNothing();
     void filterSwallowsTheMouseOfTheFrame_data();
@@ -206,6 +208,36 @@ void tst_TextEditing::keysOfTheBoardAreTheEditorsOwn()
     QCOMPARE(texts.board.screen()->items().size(), 2);
     QCOMPARE(texts.first->geometry(), geometry);
     QVERIFY(isEditing(texts.first));
+}
+
+void tst_TextEditing::keysThatTheEditorHasNoUseForGoNowhere_data()
+{
+    QTest::addColumn<Qt::Key>("key");
+    QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
+    QTest::newRow("shift alone") << Qt::Key_Shift << Qt::KeyboardModifiers(Qt::NoModifier);
+    QTest::newRow("control and up") << Qt::Key_Up << Qt::KeyboardModifiers(Qt::ControlModifier);
+    QTest::newRow("control, shift and delete")
+        << Qt::Key_Delete << Qt::KeyboardModifiers(Qt::ControlModifier | Qt::ShiftModifier);
+}
+
+void tst_TextEditing::keysThatTheEditorHasNoUseForGoNowhere()
+{
+    QFETCH(Qt::Key, key);
+    QFETCH(Qt::KeyboardModifiers, modifiers);
+    TextBoard board;
+    QVERIFY(board.isReady());
+    ScreenItem *frame = board.addText({30, 40, 200, 60});
+    ScreenItem *other = board.addText({300, 200, 80, 50});
+    board.startEditing(frame);
+    other->select();
+    const QPointer<ScreenItem> alive(frame);
+    const QVariantMap ofOther = other->getValues();
+    board.type(key, modifiers);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(alive);
+    QCOMPARE(frame->geometry(), QRect(30, 40, 200, 60));
+    QCOMPARE(other->getValues(), ofOther);
+    QVERIFY(isEditing(frame));
 }
 
 void tst_TextEditing::dragSelectsTextAndMovesNothing()
