@@ -5,6 +5,14 @@
 
 namespace
 {
+/// Wider than any screen; the toolkit would lay out every letter beyond it as well.
+constexpr int longestName = 2000; // characters
+
+QString shortened(const QString &name)
+{
+    return name.size() > longestName ? name.left(longestName) + QChar(0x2026) : name;
+}
+
 /// A name as a menu shows it: a single ampersand would vanish as the mark of a shortcut key.
 QString menuText(QString name)
 {
@@ -27,7 +35,7 @@ QAction *ItemMenu::entry(Entry entry) const
 
 void ItemMenu::run(const QString &itemName, bool isAboutSeveral, QPoint globalPosition)
 {
-    nameEntries(menuText(itemName), isAboutSeveral);
+    nameEntries(menuText(shortened(itemName)), isAboutSeveral);
     dress();
     exec(globalPosition);
 }

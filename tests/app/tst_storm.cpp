@@ -1,8 +1,12 @@
+#include "editors/panels/settingseditor.h"
 #include "tests/app/commandtest.h"
 #include "tests/app/stormuser.h"
 
 #include <QJsonDocument>
+#include <QLineEdit>
 #include <QLoggingCategory>
+
+#include <algorithm>
 
 // Thousands of actions without any plan, and what has to hold after each of them.
 class tst_Storm : public CommandTest
@@ -16,6 +20,7 @@ private slots:
 
 private:
     QString complaint() const;
+    QString complaintAboutPanel() const;
     QString complaintAboutLoading() const;
 };
 
@@ -70,6 +75,17 @@ QString tst_Storm::complaint() const
                                                                                   : QString();
 }
 
+/// What the column names has to be there.
+QString tst_Storm::complaintAboutPanel() const
+{
+    const auto *column = window().findChild<SettingsEditor *>();
+    const auto *name = column->widget()->findChild<QLineEdit *>(QString(), Qt::FindDirectChildrenOnly);
+    const QList<ScreenItem *> &layers = canvas().items();
+    const bool isThere = std::any_of(layers.begin(), layers.end(),
+                                     [name](const ScreenItem *item) { return item->name() == name->text(); });
+    return isThere || !name->isVisible() ? QString() : "the column shows an item that is gone";
+}
+
 /// The first load may hold items to the canvas.
 QString tst_Storm::complaintAboutLoading() const
 {
@@ -102,6 +118,8 @@ void tst_Storm::leavesTheBoardSound()
     for (int count = 1; count <= actionsPerSeed; ++count) {
         user.act();
         QString wrong = complaint();
+        if (wrong.isNull())
+            wrong = complaintAboutPanel();
         if (wrong.isNull() && count % actionsPerLoad == 0)
             wrong = complaintAboutLoading();
         if (!wrong.isNull())

@@ -121,6 +121,9 @@ void tst_ScreenItemMenu::namesTheItem_data()
                                   << "100 %1";
     QTest::newRow("shortcut mark") << "R&B"
                                    << "R&&B";
+    QTest::newRow("as long as can be shown") << QString(2000, 'x') << QString(2000, 'x');
+    QTest::newRow("longer than any screen is wide")
+        << QString(10 * 1024 * 1024, 'x') << QString(2000, 'x') + QChar(0x2026);
 }
 
 void tst_ScreenItemMenu::namesTheItem()
