@@ -16,11 +16,31 @@ bool open(QFile &file)
            file.open(QIODevice::ReadOnly);
 }
 
+/// The whole content. Memory for all that is asked for would be taken at once, whatever there is to read.
+QByteArray allOf(QIODevice &device)
+{
+    return device.read(qMin(MediaFile::maximumBytes, device.size()));
+}
+
 /// Drawings name other files and may take any time to draw; an icon may hold a picture of any size, whatever
 /// its own header says.
 bool isTrusted(const QByteArray &format)
 {
     return !format.startsWith("svg") && format != "ico" && format != "cur";
+}
+
+/// Every pass over a progressive picture takes its time and but a few bytes. All that may be the beginning of
+/// one is counted; what films and thumbnails in the file add to that leaves photos within the measure.
+bool isSentInFewPasses(QImageReader &reader, QSize size)
+{
+    if (reader.format() != "jpeg")
+        return true;
+    QIODevice &device = *reader.device();
+    const qint64 place = device.pos();
+    device.seek(0);
+    const int passes = allOf(device).count("\xff\xda");
+    device.seek(place);
+    return MediaFile::isWithin(size, MediaFile::maximumPassedArea / qMax(1, passes));
 }
 
 /// What the header says, before anything is decoded.
@@ -29,7 +49,7 @@ bool isReadable(QImageReader &reader, qint64 area)
     if (!reader.canRead() || !isTrusted(reader.format()))
         return false;
     const QSize size = reader.size();
-    return !size.isEmpty() && MediaFile::isWithin(size, area);
+    return !size.isEmpty() && MediaFile::isWithin(size, area) && isSentInFewPasses(reader, size);
 }
 } // namespace
 
@@ -58,7 +78,7 @@ std::unique_ptr<QMovie> MediaFile::readMovie(const QString &path)
         return nullptr;
     auto movie = std::make_unique<QMovie>();
     auto *bytes = new QBuffer(movie.get());
-    bytes->setData(file.read(maximumBytes));
+    bytes->setData(allOf(file));
     bytes->open(QIODevice::ReadOnly);
     QImageReader reader(bytes);
     if (!isReadable(reader, maximumFrameArea))

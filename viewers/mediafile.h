@@ -16,6 +16,9 @@ constexpr qint64 maximumBytes = 256 * 1024 * 1024;
 /// The largest picture, in pixels: a quarter of a gigabyte in the usual formats.
 constexpr qint64 maximumPictureArea = 64 * 1024 * 1024;
 
+/// The largest area that all passes over a progressive picture may cover together, in pixels.
+constexpr qint64 maximumPassedArea = 100 * maximumPictureArea;
+
 /// The largest frame of a movie, in pixels: they are decoded while the window waits.
 constexpr qint64 maximumFrameArea = 16 * 1024 * 1024;
 

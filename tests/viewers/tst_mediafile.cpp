@@ -31,6 +31,8 @@ private slots:
     void readsNoPictureBeyondMeasure_data();
     void readsNoPictureBeyondMeasure();
     void readsTheLargestPictureWithinMeasure();
+    void readsNoPictureOfThousandsOfPasses();
+    void countsNoPassesInSmallPictures();
     void readsNoDrawing();
     void survivesTruncation_data();
     void survivesTruncation();
@@ -89,6 +91,35 @@ QByteArray bmpOfSize(int width, int height)
 {
     QByteArray bytes = encoded(MediaFolder::chequered({4, 4}), "bmp");
     return bytes.replace(18, 8, littleEndian(width, 4) + littleEndian(height, 4));
+}
+
+QByteArray jpegSegment(char marker, const QByteArray &bytes)
+{
+    return QByteArray(1, char(0xff)) + marker + bigEndian(bytes.size() + 2).right(2) + bytes;
+}
+
+/// A table with the one code 0.
+QByteArray jpegTable(char table, char value)
+{
+    return jpegSegment(char(0xc4), QByteArray(1, table) + char(1) + QByteArray(15, char(0)) + value);
+}
+
+QByteArray jpegPass(char first, char last, int bits)
+{
+    const QByteArray head = QByteArray("\x01\x01\x00", 3) + first + last + char(0);
+    return jpegSegment(char(0xda), head) + QByteArray((bits + 7) / 8, char(0));
+}
+
+/// A progressive picture of one colour: the whole of it in one pass, then passes that add nothing.
+QByteArray jpegOfPasses(int size, int passes)
+{
+    const QByteArray lengths = bigEndian(size).right(2).repeated(2);
+    const QByteArray frame = char(8) + lengths + QByteArray("\x01\x01\x11\x00", 4);
+    const int blocks = (size + 7) / 8 * ((size + 7) / 8);
+    const int runs = (blocks + 16383) / 16384; // of blocks without a change, in 15 bits each
+    return "\xff\xd8" + jpegSegment(char(0xdb), char(0) + QByteArray(64, char(1))) +
+           jpegSegment(char(0xc2), frame) + jpegTable(0x00, 0) + jpegTable(0x10, char(0xe0)) +
+           jpegPass(0, 0, blocks) + jpegPass(1, 63, 15 * runs).repeated(passes) + "\xff\xd9";
 }
 
 /// Of the size in the header as in the frames, without the pixels to fill it.
@@ -237,6 +268,25 @@ void tst_MediaFile::readsTheLargestPictureWithinMeasure()
     QCOMPARE(MediaFile::readPicture(path).size(), white.size());
     // Movies are read while the window waits, again and again.
     QVERIFY(!MediaFile::readMovie(path));
+}
+
+void tst_MediaFile::readsNoPictureOfThousandsOfPasses()
+{
+    const QString path = m_folder.file("passes.jpg", jpegOfPasses(8000, 99));
+    QCOMPARE(MediaFile::readPicture(path).size(), QSize(8000, 8000));
+    QVERIFY(!m_folder.file("passes.jpg", jpegOfPasses(8000, 10000)).isEmpty());
+    QVERIFY(MediaFile::readPicture(path).isNull());
+    QVERIFY(!m_folder.file("passes.jpg", jpegOfPasses(4000, 1000)).isEmpty());
+    QVERIFY(!MediaFile::readMovie(path));
+}
+
+void tst_MediaFile::countsNoPassesInSmallPictures()
+{
+    // As many as a film of megabytes behind a photo may seem to hold.
+    const QString path =
+        m_folder.file("photo.jpg", jpegOfPasses(100, 5) + QByteArray("\xff\xda").repeated(10000));
+    QCOMPARE(MediaFile::readPicture(path).size(), QSize(100, 100));
+    QVERIFY(MediaFile::readMovie(path));
 }
 
 void tst_MediaFile::readsNoDrawing()
