@@ -32,7 +32,7 @@ void AnimationViewer::openFile(const QString &path)
         return;
     movie->start();
     const QSize frame = movie->currentPixmap().size();
-    if (frame.isEmpty())
+    if (frame.isEmpty() || !m_claim.take(movie->device()->size() + MediaFile::bytesOf(frame)))
         return;
     m_label->setMovie(movie.get());
     m_movie = std::move(movie);
@@ -70,7 +70,9 @@ void AnimationViewer::fitMovie()
         return;
     // A frame stretched to nothing would end the movie. One too large is stretched by the label.
     const QSize stretched = size().expandedTo(QSize(1, 1));
-    m_movie->setScaledSize(MediaFile::isWithin(stretched, MediaFile::maximumFrameArea) ? stretched : QSize());
+    const bool isAffordable = MediaFile::isWithin(stretched, MediaFile::maximumFrameArea) &&
+                              m_stretchedClaim.take(MediaFile::bytesOf(stretched));
+    m_movie->setScaledSize(isAffordable ? stretched : QSize());
 }
 
 void AnimationViewer::playAgain()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "viewers/mediaviewer.h"
+#include "viewers/memoryclaim.h"
 
 #include <QTimer>
 
@@ -34,6 +35,8 @@ private:
 
     QLabel *m_label = nullptr;
     std::unique_ptr<QMovie> m_movie;
+    MemoryClaim m_claim;
+    MemoryClaim m_stretchedClaim;
     QTimer m_rest; // runs while a movie that leaves the window no time is held up
     bool m_isHidden = false;
 };

@@ -7,10 +7,8 @@ ImageViewerItem::ImageViewerItem(QWidget *parent) : MediaViewer(QStringLiteral("
 void ImageViewerItem::openFile(const QString &path)
 {
     const QImage picture = MediaFile::readPicture(path);
-    if (picture.isNull())
-        return;
-    m_picture.setImage(picture);
-    takeSize(picture.size());
+    if (!picture.isNull() && m_picture.setImage(picture))
+        takeSize(picture.size());
 }
 
 void ImageViewerItem::paintEvent(QPaintEvent *event)

@@ -1,5 +1,7 @@
 #include "viewers/mediafile.h"
 
+#include "viewers/memoryclaim.h"
+
 #include <QBuffer>
 #include <QFile>
 #include <QFileInfo>
@@ -12,7 +14,8 @@ namespace
 bool open(QFile &file)
 {
     const QFileInfo info(file.fileName());
-    return info.isFile() && info.size() > 0 && info.size() <= MediaFile::maximumBytes &&
+    return info.isFile() && info.size() > 0 &&
+           info.size() <= qMin(MediaFile::maximumBytes, MemoryClaim::left()) &&
            file.open(QIODevice::ReadOnly);
 }
 
@@ -49,13 +52,19 @@ bool isReadable(QImageReader &reader, qint64 area)
     if (!reader.canRead() || !isTrusted(reader.format()))
         return false;
     const QSize size = reader.size();
-    return !size.isEmpty() && MediaFile::isWithin(size, area) && isSentInFewPasses(reader, size);
+    return !size.isEmpty() && MediaFile::isWithin(size, area) &&
+           MediaFile::bytesOf(size) <= MemoryClaim::left() && isSentInFewPasses(reader, size);
 }
 } // namespace
 
 bool MediaFile::isWithin(QSize size, qint64 area)
 {
     return qint64(size.width()) * size.height() <= area;
+}
+
+qint64 MediaFile::bytesOf(QSize size)
+{
+    return qint64(size.width()) * size.height() * 4;
 }
 
 QImage MediaFile::readPicture(const QString &path)

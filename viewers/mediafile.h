@@ -7,7 +7,8 @@
 #include <memory>
 
 /// Reads pictures and movies from files that may be anything. What is no regular file is never opened, what
-/// would take too much memory or time is not read, and nobody is told why.
+/// would take too much memory or time is not read, and nobody is told why. What is left of the memory for all
+/// media (MemoryClaim) counts, too.
 namespace MediaFile
 {
 /// The largest file that is read, in bytes.
@@ -24,6 +25,9 @@ constexpr qint64 maximumFrameArea = 16 * 1024 * 1024;
 
 /// True for sizes of no more pixels than the area.
 bool isWithin(QSize size, qint64 area);
+
+/// The memory that a decoded picture of the size takes in the usual formats, in bytes.
+qint64 bytesOf(QSize size);
 
 /// The picture in the file; a null one for a file that cannot be read as such. One image pixel is one pixel
 /// of the screen, whatever the file's name says about scaled desktops.

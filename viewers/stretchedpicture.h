@@ -1,5 +1,7 @@
 #pragma once
 
+#include "viewers/memoryclaim.h"
+
 #include <QImage>
 #include <QPixmap>
 
@@ -11,14 +13,18 @@ class StretchedPicture
 {
 public:
     bool isNull() const { return m_image.isNull(); }
-    void setImage(const QImage &image);
+
+    /// False when pictures hold too much memory already; then the former one stays.
+    bool setImage(const QImage &image);
 
     /// Draws the picture at the origin in this size (px); nothing for an empty size.
     void draw(QPainter &painter, QSize size);
 
 private:
-    const QPixmap &stretched(QSize size);
+    void stretch(QSize size);
 
     QImage m_image;
-    QPixmap m_stretched; // null until it is drawn
+    QPixmap m_stretched; // null until it is drawn, and while no copy can be kept
+    MemoryClaim m_imageClaim;
+    MemoryClaim m_stretchedClaim;
 };
