@@ -172,6 +172,9 @@ void UpdateMagaer::download()
 
 void UpdateMagaer::downloadFinished(QNetworkReply *reply)
 {
+    // The manager tells of the descriptor of a later check too.
+    if (!m_downloads.contains(reply))
+        return;
     if (reply->error() != QNetworkReply::NoError)
         showDownloadFailed(reply->url(), reply->errorString());
     else if (isHttpRedirect(reply))

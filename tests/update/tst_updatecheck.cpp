@@ -26,6 +26,7 @@ private slots:
     void logsTheDescriptor();
     void handlesKeysWhileAnAnswerTrickles();
     void canBeUsedAgainMeanwhile();
+    void asksAgainWithTheSameObject();
     void endsWithTheApplication();
     void allEndWithTheApplication();
 
@@ -269,9 +270,29 @@ void tst_UpdateCheck::canBeUsedAgainMeanwhile()
     QVERIFY(isPublishedForSecond);
 }
 
+// What downloads are watched with hears of the second descriptor too.
+void tst_UpdateCheck::asksAgainWithTheSameObject()
+{
+    server().give(descriptorPath(), descriptorAnswer("1.0", "http://h/x"));
+    const DialogAnswers none;
+    UpdateMagaer updates;
+    QVERIFY(updates.check());
+    QVERIFY(updates.check());
+    QCoreApplication::processEvents();
+    QVERIFY(none.areUsedUp());
+    QVERIFY(files().isEmpty());
+}
+
 void tst_UpdateCheck::endsWithTheApplication()
 {
-    server().on(descriptorPath(), [](QTcpSocket *) { QCoreApplication::quit(); });
+    // The answer is readable, but not complete; by the end of the second check it has been read.
+    server().on(descriptorPath(), [this](QTcpSocket *socket) {
+        socket->write("HTTP/1.1 200 OK\r\n\r\n" + paddedDescriptor(100));
+        server().give(descriptorPath(), descriptorAnswer("0.9", "http://h/x"));
+        UpdateMagaer second;
+        second.check();
+        QCoreApplication::quit();
+    });
     bool isPublished = true;
     QTimer::singleShot(0, this, [&] { isPublished = quietCheck(); });
     QVERIFY(runsToItsEnd());
