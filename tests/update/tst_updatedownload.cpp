@@ -26,6 +26,7 @@ private slots:
     void replacesALinkAndNotItsTarget();
     void tellsOfAFailure_data();
     void tellsOfAFailure();
+    void tellsOfAFailureWithTheEncodedAddress();
     void takesNoMoreThanAGibibyte();
     void showsTheServersWordsWithoutMarkup();
     void refusesWhatIsNotOfTheWeb_data();
@@ -124,14 +125,20 @@ void tst_UpdateDownload::savesIntoTheWorkingDirectoryAndTells()
 void tst_UpdateDownload::forgetsAndDeletesTheReply()
 {
     server().give("/setup.run", httpAnswer("new"));
-    DialogAnswers answers;
-    answers.press("Close");
     UpdateMagaer updates;
+    int whileTelling = 0;
+    DialogAnswers answers;
+    answers.act([&](QDialog *dialog) {
+        whileTelling = updates.downloads().size();
+        dialog->done(QDialog::Rejected);
+        return true;
+    });
     startDownload(updates, server().url("/setup.run"));
     QCOMPARE(updates.downloads().size(), 1);
     const QPointer<QNetworkReply> reply = updates.downloads().constFirst();
     QTRY_VERIFY(updates.downloads().isEmpty());
     QTRY_VERIFY(!reply);
+    QCOMPARE(whileTelling, 1);
 }
 
 void tst_UpdateDownload::savesUnderTheNameOfTheAddress_data()
@@ -147,6 +154,7 @@ void tst_UpdateDownload::savesUnderTheNameOfTheAddress_data()
     row("ends in a slash", "/files/", "/files/", "download");
     row("no path", "", "/", "download");
     row("query", "/setup.run?version=1.0", "/setup.run", "setup.run");
+    row("space", "/my setup.run", "/my%20setup.run", "my setup.run");
     row("encoded space", "/my%20setup.run", "/my%20setup.run", "my setup.run");
     row("looks like a place holder", "/%251%252.run", "/%251%252.run", "%1%2.run");
     row("device name", "/aux.run", "/aux.run", "download");
@@ -167,6 +175,8 @@ void tst_UpdateDownload::savesUnderTheNameOfTheAddress()
     QCOMPARE(server().requests(), QList<QByteArray>({asked}));
     QCOMPARE(files(), QStringList(name));
     QVERIFY(onlyBox(answers).text.endsWith("succeeded (saved to " + name + ")"));
+    if (path == asked)
+        QCOMPARE(onlyBox(answers).text, succeeded(server().url(path), name));
     QCOMPARE(readFile(name), QByteArray("new"));
 }
 
@@ -262,6 +272,10 @@ void tst_UpdateDownload::tellsOfAFailure_data()
                                    << "Error transferring %1 - server replied: Out of order";
     QTest::newRow("closed in the middle")
         << QByteArray("HTTP/1.1 200 OK\r\nContent-Length: 100\r\n\r\nhalf") << "Connection closed";
+    QTest::newRow("redirect closed in the middle")
+        << QByteArray("HTTP/1.1 302 Elsewhere\r\nContent-Length: 100\r\n\r\nhalf") << "Connection closed";
+    QTest::newRow("a whole gibibyte closed in the middle")
+        << QByteArray("HTTP/1.1 200 OK\r\nContent-Length: 1073741824\r\n\r\nhalf") << "Connection closed";
     QTest::newRow("closed at once") << QByteArray() << "Connection closed";
 }
 
@@ -282,6 +296,15 @@ void tst_UpdateDownload::tellsOfAFailure()
     QCOMPARE(readFile("setup.run"), oldFile);
 }
 
+void tst_UpdateDownload::tellsOfAFailureWithTheEncodedAddress()
+{
+    const QByteArray url = server().url("/%C3%A9%251%252.run");
+    DialogAnswers answers;
+    answers.press("OK");
+    download(url, answers);
+    QVERIFY(onlyBox(answers).text.startsWith("Url = " + url + " Error:Error transferring "));
+}
+
 void tst_UpdateDownload::takesNoMoreThanAGibibyte()
 {
     server().on("/setup.run", [](QTcpSocket *socket) {
@@ -299,14 +322,17 @@ void tst_UpdateDownload::showsTheServersWordsWithoutMarkup()
 {
     server().give("/setup.run", httpAnswer("", "404 <h1>Click <a href='http://h/'>here</a></h1>"));
     bool isPlain = false;
+    bool hasParent = true;
     DialogAnswers answers;
-    answers.act([&isPlain](QDialog *dialog) {
+    answers.act([&isPlain, &hasParent](QDialog *dialog) {
+        hasParent = dialog->parent();
         isPlain = qobject_cast<QMessageBox *>(dialog)->textFormat() == Qt::PlainText;
         dialog->done(QMessageBox::Ok);
         return true;
     });
     download(server().url("/setup.run"), answers);
     QVERIFY(isPlain);
+    QVERIFY(!hasParent);
     QVERIFY(onlyBox(answers).text.endsWith("<h1>Click <a href='http://h/'>here</a></h1>"));
 }
 
@@ -452,8 +478,10 @@ void tst_UpdateDownload::escapeDoesNotEndTheBox()
 {
     server().give("/setup.run", httpAnswer("new"));
     bool isStillThere = false;
+    bool hasParent = true;
     DialogAnswers answers;
-    answers.act([&isStillThere](QDialog *dialog) {
+    answers.act([&isStillThere, &hasParent](QDialog *dialog) {
+        hasParent = dialog->parent();
         QTest::keyClick(dialog, Qt::Key_Escape);
         dialog->close();
         isStillThere = dialog->isVisible();
@@ -462,6 +490,7 @@ void tst_UpdateDownload::escapeDoesNotEndTheBox()
     });
     download(server().url("/setup.run"), answers);
     QVERIFY(isStillThere);
+    QVERIFY(!hasParent);
     QVERIFY(!QFileInfo("setup.run").isExecutable());
 }
 
@@ -481,9 +510,10 @@ void tst_UpdateDownload::runScript(const QByteArray &script, const QByteArray &p
 // Its name is that of an installed program, which is not the one to run.
 void tst_UpdateDownload::runStartsTheSavedFileAndQuits()
 {
-    runScript("echo $# arguments; echo $0; pwd", "/true");
+    const QByteArray own = QByteArray::number(QCoreApplication::applicationPid());
+    runScript("[ $PPID -ne " + own + " ] && echo detached; echo $# arguments; echo $0; pwd", "/true");
     const QByteArray folder = QFile::encodeName(QDir::currentPath());
-    QCOMPARE(readFile("report"), "0 arguments\n" + folder + "/true\n" + folder + "\n");
+    QCOMPARE(readFile("report"), "detached\n0 arguments\n" + folder + "/true\n" + folder + "\n");
     const QFile::Permissions rights = QFile::permissions("true");
     QVERIFY(rights.testFlag(QFile::ExeOwner));
     QVERIFY(rights.testFlag(QFile::ReadOwner));
