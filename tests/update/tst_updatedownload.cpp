@@ -298,7 +298,7 @@ void tst_UpdateDownload::tellsOfAFailure()
 
 void tst_UpdateDownload::tellsOfAFailureWithTheEncodedAddress()
 {
-    const QByteArray url = server().url("/%C3%A9%251%252.run");
+    const QByteArray url = server().url("/%C3%A9%01.run");
     DialogAnswers answers;
     answers.press("OK");
     download(url, answers);
