@@ -15,6 +15,7 @@ private slots:
     void slotsKeepOrderAndAccess();
     void hasNoOtherMethods();
     void downloadOfNothingFails();
+    void anAddressThatIsNoTextIsEmpty();
     void sslErrorsShowsOneBoxPerErrorInOrder();
     void saveFileNameDeletesTheOlderFile();
     void saveFileNameLeavesAFolderAlone();
@@ -103,6 +104,18 @@ void tst_UpdateMagaer::downloadOfNothingFails()
     updates.download();
     QVERIFY(answers.areUsedUp());
     QCOMPARE(answers.seen().constFirst().text, QString("Url =  Error:Protocol \"\" is unknown"));
+}
+
+void tst_UpdateMagaer::anAddressThatIsNoTextIsEmpty()
+{
+    server().give(descriptorPath(), httpAnswer(R"({"version": "1.0", "url": true})"));
+    UpdateMagaer updates;
+    QVERIFY(updates.check());
+    DialogAnswers answers;
+    answers.press("OK");
+    updates.download();
+    QVERIFY(answers.areUsedUp());
+    QVERIFY(answers.seen().constFirst().text.startsWith("Url =  Error:"));
 }
 
 void tst_UpdateMagaer::sslErrorsShowsOneBoxPerErrorInOrder()
