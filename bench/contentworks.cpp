@@ -30,21 +30,30 @@ void editText(int items, int)
 {
     Session session(items, wideCanvas, BenchBoard::Content::Texts);
     session.open();
+    settle();
     ScreenItem &item = *session.screen().items().first();
     session.show(item);
+    const auto *editor = item.findChild<QTextEdit *>();
+    const auto close = [&item, editor] {
+        if (editor->isReadOnly() || editor->visibleRegion().isEmpty())
+            qFatal("the text was not opened");
+        item.content()->endEditing();
+    };
+    const auto open = [&item] {
+        postMouse(item, QEvent::MouseButtonDblClick, Qt::LeftButton);
+    };
+    const auto clickAndOpen = [&item, open] {
+        click(item);
+        open();
+    };
+    const auto closeAndLeave = [&session, close] {
+        close();
+        postMouse(session.screen(), QEvent::MouseButtonPress, Qt::LeftButton);
+    };
+    report("cpu", cpuOfUndone(20, clickAndOpen, closeAndLeave));
     click(item);
     settle();
-    const auto *editor = item.findChild<QTextEdit *>();
-    const auto open = [&item, editor] {
-        const QPoint middle = item.rect().center();
-        auto press = mouseEvent(item, QEvent::MouseButtonDblClick, middle, Qt::LeftButton);
-        QCoreApplication::postEvent(&item, press.release());
-    };
-    report("cpu", cpuOfUndone(100, open, [&item, editor] {
-               if (editor->isReadOnly() || editor->visibleRegion().isEmpty())
-                   qFatal("the text was not opened");
-               item.content()->endEditing();
-           }));
+    report("opening", cpuOfUndone(100, open, close));
 }
 
 void paintPicture(int, int)

@@ -2,7 +2,8 @@
 
 // The work of texts, pictures and movies in the editor.
 
-/// Opens a text for editing in place, on a board of so many.
+/// Opens a text for editing in place, on a board of so many: by a double click, "cpu", and, when it is
+/// selected and its panel is open already, "opening".
 void editText(int items, int);
 
 /// Repaints a picture that has not changed.

@@ -40,12 +40,13 @@ std::unique_ptr<QMouseEvent> mouseEvent(const QWidget &widget, QEvent::Type type
                                          widget.mapToGlobal(local), button, buttons, Qt::NoModifier);
 }
 
+void postMouse(QWidget &widget, QEvent::Type type, Qt::MouseButtons buttons)
+{
+    QCoreApplication::postEvent(&widget, mouseEvent(widget, type, widget.rect().center(), buttons).release());
+}
+
 void click(ScreenItem &item)
 {
-    const QPoint middle = item.rect().center();
-    const auto post = [&](QEvent::Type type, Qt::MouseButtons buttons) {
-        QCoreApplication::postEvent(&item, mouseEvent(item, type, middle, buttons).release());
-    };
-    post(QEvent::MouseButtonPress, Qt::LeftButton);
-    post(QEvent::MouseButtonRelease, Qt::NoButton);
+    postMouse(item, QEvent::MouseButtonPress, Qt::LeftButton);
+    postMouse(item, QEvent::MouseButtonRelease, Qt::NoButton);
 }

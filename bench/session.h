@@ -39,6 +39,9 @@ private:
 std::unique_ptr<QMouseEvent> mouseEvent(const QWidget &widget, QEvent::Type type, QPoint local,
                                         Qt::MouseButtons buttons);
 
-/// Posts a click on the middle of the item. Posted, since what is deleted later than a sent event outlives
-/// the loop that settles.
+/// Posts a mouse event at the middle of the widget. Posted, since what is deleted later than a sent event
+/// outlives the loop that settles.
+void postMouse(QWidget &widget, QEvent::Type type, Qt::MouseButtons buttons);
+
+/// Posts a click on the item.
 void click(ScreenItem &item);
