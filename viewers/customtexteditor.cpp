@@ -1,11 +1,11 @@
 #include "viewers/customtexteditor.h"
 
+#include "viewers/mediafile.h"
 #include "viewers/richtext.h"
 
 #include <QApplication>
 #include <QBuffer>
 #include <QContextMenuEvent>
-#include <QImageReader>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMimeData>
@@ -14,7 +14,7 @@
 
 namespace
 {
-constexpr qint64 maximumArea = 4 * 1024 * 1024; // pixels of one picture
+constexpr qint64 maximumBytes = 8 * 1024 * 1024; // of all pictures in one text, a full board among them
 
 /// Not null: for a picture that is null the toolkit would look into files by itself.
 QImage leftOut()
@@ -33,15 +33,14 @@ QByteArray carriedBytes(const QUrl &address)
                                                              : QByteArray();
 }
 
-QImage carriedImage(const QUrl &address)
+QImage carriedImage(const QUrl &address, qint64 room)
 {
     QByteArray bytes = carriedBytes(address);
     QBuffer buffer(&bytes);
-    QImageReader reader(&buffer);
-    const QSize size = reader.size();
-    const bool isBounded = size.isValid() && qint64(size.width()) * size.height() <= maximumArea;
-    return isBounded ? reader.read() : QImage();
+    buffer.open(QIODevice::ReadOnly);
+    return MediaFile::readPicture(buffer, room / MediaFile::bytesOf({1, 1}));
 }
+
 /// Plain text as the markup that it becomes.
 QString markupOf(const QString &text)
 {
@@ -60,12 +59,24 @@ QString markupOf(const QMimeData &source)
 
 CustomTextEditor::CustomTextEditor(QWidget *parent) : QTextEdit(parent) {}
 
+void CustomTextEditor::showHtml(const QString &html)
+{
+    m_pictureBytes = 0;
+    m_claim.take(0);
+    document()->setHtml(html);
+}
+
 QVariant CustomTextEditor::loadResource(int type, const QUrl &name)
 {
     if (type != QTextDocument::ImageResource)
         return QByteArray("");
-    const QImage image = name.scheme() == QLatin1String("data") ? carriedImage(name) : QImage();
-    return image.isNull() ? leftOut() : image;
+    const QImage image =
+        name.scheme() == QLatin1String("data") ? carriedImage(name, maximumBytes - m_pictureBytes) : QImage();
+    if (image.isNull())
+        return leftOut();
+    m_pictureBytes += MediaFile::bytesOf(image.size());
+    m_claim.take(m_pictureBytes);
+    return image;
 }
 
 void CustomTextEditor::contextMenuEvent(QContextMenuEvent *event)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "viewers/memoryclaim.h"
+
 #include <QTextEdit>
 
 /// The editor inside a text item. A class of its own, so that the style sheet can address it; otherwise the
@@ -11,8 +13,12 @@ class CustomTextEditor : public QTextEdit
 public:
     explicit CustomTextEditor(QWidget *parent = nullptr);
 
+    /// Replaces the document's content, with new room for pictures.
+    void showHtml(const QString &html);
+
     /// Reaches for nothing outside: pictures that the HTML carries with it are shown, those that it only
-    /// names (on a server, in a file) are left out, and so are style sheets.
+    /// names (on a server, in a file) are left out, and so are drawings, which may name others, style sheets,
+    /// and pictures that are too much for one text or for the memory that all media share.
     QVariant loadResource(int type, const QUrl &name) override;
 
     /// Scrolls to the start of the text.
@@ -27,4 +33,8 @@ protected:
     void showEvent(QShowEvent *event) override;
     /// Of what is too much to be shown only the beginning is inserted.
     void insertFromMimeData(const QMimeData *source) override;
+
+private:
+    qint64 m_pictureBytes = 0; // of all pictures so far
+    MemoryClaim m_claim;
 };

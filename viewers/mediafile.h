@@ -6,6 +6,8 @@
 
 #include <memory>
 
+class QIODevice;
+
 /// Reads pictures and movies from files that may be anything. What is no regular file is never opened, what
 /// would take too much memory or time is not read, and nobody is told why. What is left of the memory for all
 /// media (MemoryClaim) counts, too.
@@ -17,8 +19,8 @@ constexpr qint64 maximumBytes = 256 * 1024 * 1024;
 /// The largest picture, in pixels: a quarter of a gigabyte in the usual formats.
 constexpr qint64 maximumPictureArea = 64 * 1024 * 1024;
 
-/// The largest area that all passes over a progressive picture may cover together, in pixels.
-constexpr qint64 maximumPassedArea = 100 * maximumPictureArea;
+/// So many passes over a progressive picture of the largest area that is wanted; more over a smaller one.
+constexpr int maximumPasses = 100;
 
 /// The largest frame of a movie, in pixels: they are decoded while the window waits.
 constexpr qint64 maximumFrameArea = 16 * 1024 * 1024;
@@ -32,6 +34,9 @@ qint64 bytesOf(QSize size);
 /// The picture in the file; a null one for a file that cannot be read as such. One image pixel is one pixel
 /// of the screen, whatever the file's name says about scaled desktops.
 QImage readPicture(const QString &path);
+
+/// The same from an open device that can go back and forth, for pictures of no more pixels than the area.
+QImage readPicture(QIODevice &device, qint64 area);
 
 /// The movie in the file, not yet started; null for a file that cannot be read as such. The movie holds the
 /// file's bytes, so that it plays on when the file changes or goes, and one frame at a time.

@@ -282,7 +282,7 @@ void TextOutput::showText()
     const QString html = m_values.value(TextKeys::text()).toString();
     m_isShownWhole = RichText::isShowable(html);
     if (m_isShownWhole)
-        m_editor->document()->setHtml(html);
+        m_editor->showHtml(html);
     else
         m_editor->document()->setPlainText(RichText::excerpt(html));
 }

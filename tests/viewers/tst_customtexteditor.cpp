@@ -5,6 +5,7 @@
 #include "tests/support/files.h"
 #include "tests/support/strictmain.h"
 #include "tests/viewers/textboard.h"
+#include "viewers/memoryclaim.h"
 
 #include <QApplication>
 #include <QBuffer>
@@ -54,6 +55,16 @@ QString claiming(qint32 width, qint32 height)
     return "data:image/bmp;base64," + bytes.toBase64();
 }
 
+/// A drawing of 100 x 100 px that names a picture at the address.
+QString drawingOf(const QString &address)
+{
+    const QString drawing = QString("<svg xmlns='http://www.w3.org/2000/svg' "
+                                    "xmlns:xlink='http://www.w3.org/1999/xlink' width='100' height='100'>"
+                                    "<image width='100' height='100' xlink:href='%1'/></svg>")
+                                .arg(address);
+    return "data:image/svg+xml;base64," + drawing.toUtf8().toBase64();
+}
+
 /// Every way in which HTML can ask for something at an address.
 QStringList askingFor(const QString &address)
 {
@@ -95,6 +106,9 @@ private slots:
 
     void showsPicturesThatTheTextCarries_data();
     void showsPicturesThatTheTextCarries();
+    void picturesShareTheRoomOfTheirText();
+    void picturesShareTheMemoryOfAllMedia();
+    void pictureThatIsShownTwiceIsReadOnce();
     void leavesOutEverythingElse_data();
     void leavesOutEverythingElse();
     void hasNoOtherResources();
@@ -140,6 +154,49 @@ void tst_CustomTextEditor::showsPicturesThatTheTextCarries()
     QVERIFY(editor.document()->idealWidth() >= 7);
 }
 
+void tst_CustomTextEditor::picturesShareTheRoomOfTheirText()
+{
+    CustomTextEditor editor;
+    const QString full = carried({1920, 1080});
+    const QString half = carried({1000, 1000});
+    for (int i = 0; i < 3; ++i) {
+        editor.showHtml("another text");
+        QCOMPARE(sizeOf(editor, full), QSize(1920, 1080));
+        QCOMPARE(sizeOf(editor, half), QSize(1, 1));
+        QCOMPARE(sizeOf(editor, carried({10, 10})), QSize(10, 10));
+        editor.showHtml("another text");
+        QCOMPARE(sizeOf(editor, half), QSize(1000, 1000));
+        QCOMPARE(sizeOf(editor, full), QSize(1, 1));
+        QCOMPARE(sizeOf(editor, half), QSize(1000, 1000));
+    }
+}
+
+void tst_CustomTextEditor::picturesShareTheMemoryOfAllMedia()
+{
+    const QString picture = carried({7, 5});
+    MemoryClaim others;
+    {
+        CustomTextEditor editor;
+        QVERIFY(others.take(MemoryClaim::maximum - 7 * 5 * 4 + 1));
+        QCOMPARE(sizeOf(editor, picture), QSize(1, 1));
+        QVERIFY(others.take(MemoryClaim::maximum - 7 * 5 * 4));
+        QCOMPARE(sizeOf(editor, picture), QSize(7, 5));
+        QCOMPARE(MemoryClaim::left(), qint64(0));
+        editor.showHtml("another text");
+        QCOMPARE(MemoryClaim::left(), qint64(7 * 5 * 4));
+        QCOMPARE(sizeOf(editor, picture), QSize(7, 5));
+    }
+    QCOMPARE(MemoryClaim::left(), qint64(7 * 5 * 4));
+}
+
+void tst_CustomTextEditor::pictureThatIsShownTwiceIsReadOnce()
+{
+    CustomTextEditor editor;
+    editor.setLineWrapMode(QTextEdit::NoWrap);
+    editor.showHtml(QString("<p><img src='%1'><img src='%1'></p>").arg(carried({1900, 1000})));
+    QVERIFY(editor.document()->idealWidth() >= 3800);
+}
+
 void tst_CustomTextEditor::leavesOutEverythingElse_data()
 {
     QTest::addColumn<QString>("address");
@@ -150,7 +207,8 @@ void tst_CustomTextEditor::leavesOutEverythingElse_data()
     QTest::newRow("no comma") << "data:image/png;base64";
     QTest::newRow("huge header") << claiming(60000, 60000);
     QTest::newRow("largest header") << claiming(2147483647, 2147483647);
-    QTest::newRow("a little too large") << claiming(4096, 1025);
+    QTest::newRow("a little too large") << claiming(2048, 1025);
+    QTest::newRow("drawing") << drawingOf("");
     QTest::newRow("server") << "http://localhost/x.png";
     QTest::newRow("file") << "file:///etc/hostname";
     QTest::newRow("path") << "/usr/share/pixmaps/x.png";
@@ -199,8 +257,9 @@ void tst_CustomTextEditor::opensNoFile()
     // Nobody ever writes into it: whoever opens it waits for ever.
     const QTemporaryDir folder;
     QCOMPARE(mkfifo(qPrintable(folder.filePath("pipe.png")), 0600), 0);
-    for (const QString &address : {folder.filePath("pipe.png"), "file://" + folder.filePath("pipe.png"),
-                                   QString("file:///dev/zero"), QString("/dev/zero")}) {
+    for (const QString &address :
+         {folder.filePath("pipe.png"), "file://" + folder.filePath("pipe.png"),
+          drawingOf(folder.filePath("pipe.png")), QString("file:///dev/zero"), QString("/dev/zero")}) {
         const QStringList pages = askingFor(address);
         for (const QString &page : pages)
             show(page);
