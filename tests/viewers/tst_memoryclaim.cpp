@@ -119,6 +119,11 @@ void tst_MemoryClaim::keepsNoCopiesFromTheSecondHalf()
     QVERIFY(others.take(0));
     QCOMPARE(board.picture(), stretched);
     QCOMPARE(MemoryClaim::left(), MemoryClaim::maximum - (70 * 30 + 140 * 60) * 4);
+    // What was kept for another size is given back.
+    QVERIFY(others.take(MemoryClaim::maximum / 2));
+    board.frame->resize(141, 60);
+    QCOMPARE(board.picture(), MediaFolder::chequered({70, 30}).scaled(141, 60));
+    QCOMPARE(MemoryClaim::left(), before);
 }
 
 void tst_MemoryClaim::stretchesNoFramesBeyondIt()
