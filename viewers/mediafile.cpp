@@ -11,6 +11,8 @@
 
 namespace
 {
+constexpr qint64 pieceBytes = 64 * 1024;
+
 /// Pipes and devices may never answer. Neither may those files of the system that claim to be regular ones
 /// and empty.
 bool open(QFile &file)
@@ -45,7 +47,7 @@ int passesIn(std::string_view piece)
 
 /// Every pass over a progressive picture takes its time and but a few bytes. All that may be the beginning of
 /// one is counted; what films and thumbnails in the file add to that leaves photos within the measure.
-bool isSentInFewPasses(QImageReader &reader, QSize size)
+bool isSentInFewPasses(QImageReader &reader, QSize size, qint64 area)
 {
     if (reader.format() != "jpeg")
         return true;
@@ -57,7 +59,7 @@ bool isSentInFewPasses(QImageReader &reader, QSize size)
     for (QByteArray piece = device.read(pieceBytes); !piece.isEmpty(); piece = device.read(pieceBytes))
         passes += passesIn({piece.constData(), std::size_t(piece.size())});
     device.seek(place);
-    return MediaFile::isWithin(size, MediaFile::maximumPassedArea / qMax(1, passes));
+    return MediaFile::isWithin(size, MediaFile::maximumPasses * area / qMax(1, passes));
 }
 
 /// What the header says, before anything is decoded.
