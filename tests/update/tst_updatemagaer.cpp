@@ -17,6 +17,7 @@ private slots:
     void downloadOfNothingFails();
     void anAddressThatIsNoTextIsEmpty();
     void sslErrorsShowsOneBoxPerErrorInOrder();
+    void sixStatusCodesAreRedirects();
     void saveFileNameDeletesTheOlderFile();
     void saveFileNameLeavesAFolderAlone();
     void saveToDiskWritesEverything();
@@ -25,6 +26,33 @@ private slots:
 
 namespace
 {
+/// An answer that is nothing but a status.
+class StatusReply : public QNetworkReply
+{
+public:
+    explicit StatusReply(int status) { setAttribute(QNetworkRequest::HttpStatusCodeAttribute, status); }
+    void abort() override {}
+
+protected:
+    qint64 readData(char *data, qint64 size) override
+    {
+        Q_UNUSED(data)
+        Q_UNUSED(size)
+        return -1;
+    }
+};
+
+bool isHttpRedirect(UpdateMagaer &updates, int status)
+{
+    StatusReply answer(status);
+    QNetworkReply *base = &answer;
+    // As below: without a blank before the star.
+    const QArgument<QNetworkReply *> reply("QNetworkReply*", base);
+    bool isRedirect = false;
+    QMetaObject::invokeMethod(&updates, "isHttpRedirect", Q_RETURN_ARG(bool, isRedirect), reply);
+    return isRedirect;
+}
+
 QString saveFileName(UpdateMagaer &updates, const QUrl &url)
 {
     QString name;
@@ -132,6 +160,17 @@ void tst_UpdateMagaer::sslErrorsShowsOneBoxPerErrorInOrder()
         QCOMPARE(answers.seen().at(place).title, QString("SSL error"));
         QCOMPARE(answers.seen().at(place).text, errors.at(place).errorString());
     }
+}
+
+void tst_UpdateMagaer::sixStatusCodesAreRedirects()
+{
+    UpdateMagaer updates;
+    QList<int> redirects;
+    for (int status = 100; status < 600; ++status) {
+        if (isHttpRedirect(updates, status))
+            redirects << status;
+    }
+    QCOMPARE(redirects, QList<int>({301, 302, 303, 305, 307, 308}));
 }
 
 void tst_UpdateMagaer::saveFileNameDeletesTheOlderFile()
