@@ -81,10 +81,18 @@ void Screen::addScreenItem(ScreenItem *item)
 
 void Screen::clearSelection()
 {
+    updateFor(m_selection.size());
     const QList<ScreenItem *> selected = m_selection;
     for (ScreenItem *item : selected)
         item->deselect();
     m_selection.clear();
+}
+
+void Screen::updateFor(int frames)
+{
+    // What the frames mark is then marked already: many small areas are slow to join and slow to paint.
+    if (frames > 1 && frames * framesPerMove > m_items.size())
+        update();
 }
 
 void Screen::noteSelected(ScreenItem *item, bool selected)
@@ -373,6 +381,7 @@ void Screen::pasteShortcutActivated()
 void Screen::selectAllShortcutActivated()
 {
     clearSelection();
+    updateFor(m_items.size());
     for (ScreenItem *item : qAsConst(m_items))
         item->select();
 }
@@ -459,6 +468,7 @@ void Screen::mousePressEvent(QMouseEvent *event)
         event->ignore();
         return;
     }
+    updateFor(m_selection.size());
     emit deactivateFor(nullptr);
     emit showSettingsFor(nullptr);
     clearSelection();

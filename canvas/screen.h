@@ -124,6 +124,7 @@ protected:
 private:
     void bindShortcuts();
     void changeSize(QSize size);
+    void updateFor(int frames);
     void deleteAllItems();
     bool isFull() const;
     ScreenItem *newFrame(QPoint position);
