@@ -16,6 +16,7 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QPointer>
+#include <QScrollBar>
 #include <QTcpServer>
 #include <QTemporaryDir>
 #include <QTextBlock>
@@ -121,8 +122,13 @@ private slots:
     void pastesWhatCanBeShown();
     void pastesTheBeginningOfTooMuch_data();
     void pastesTheBeginningOfTooMuch();
+    void pastesTheBeginningOfTheTextBesideIt();
     void pastesNoMoreThanCanBeOpenedAgain();
     void contextMenuIsDressedAndGoes();
+
+    void keepsKeysWhileItIsEdited();
+    void showsTheBeginningWhenItAppears();
+    void showsTheBeginningOfLongLines();
 };
 
 void tst_CustomTextEditor::isTheToolkitsEditor()
@@ -203,7 +209,7 @@ void tst_CustomTextEditor::leavesOutEverythingElse_data()
 
     QTest::newRow("nothing") << "";
     QTest::newRow("no picture") << "data:image/png;base64,AAAA";
-    QTest::newRow("no base 64") << "data:image/png,abc";
+    QTest::newRow("no base 64") << carried({7, 5}).remove(";base64");
     QTest::newRow("no comma") << "data:image/png;base64";
     QTest::newRow("huge header") << claiming(60000, 60000);
     QTest::newRow("largest header") << claiming(2147483647, 2147483647);
@@ -349,6 +355,17 @@ void tst_CustomTextEditor::pastesTheBeginningOfTooMuch()
     QVERIFY(editor.toPlainText().size() <= 1001);
 }
 
+void tst_CustomTextEditor::pastesTheBeginningOfTheTextBesideIt()
+{
+    CustomTextEditor editor;
+    auto *data = new QMimeData;
+    data->setHtml(QString("<p>rich</p>").repeated(50000));
+    data->setText("plain < text");
+    QGuiApplication::clipboard()->setMimeData(data);
+    editor.paste();
+    QCOMPARE(editor.toPlainText(), QString("plain < text"));
+}
+
 void tst_CustomTextEditor::pastesNoMoreThanCanBeOpenedAgain()
 {
     CustomTextEditor editor;
@@ -372,6 +389,47 @@ void tst_CustomTextEditor::contextMenuIsDressedAndGoes()
     QTest::keyClick(menu, Qt::Key_Escape);
     QTRY_VERIFY(!menu);
     qApp->setStyleSheet(QString());
+}
+
+void tst_CustomTextEditor::keepsKeysWhileItIsEdited()
+{
+    CustomTextEditor editor;
+    for (const bool isEdited : {false, true}) {
+        editor.setReadOnly(!isEdited);
+        QKeyEvent event(QEvent::KeyPress, Qt::Key_Shift, Qt::NoModifier);
+        event.ignore();
+        QCoreApplication::sendEvent(&editor, &event);
+        QCOMPARE(event.isAccepted(), isEdited);
+    }
+}
+
+void tst_CustomTextEditor::showsTheBeginningWhenItAppears()
+{
+    for (const bool isEdited : {false, true}) {
+        CustomTextEditor editor;
+        editor.resize(100, 50);
+        editor.setPlainText(QString("line\n").repeated(50));
+        editor.moveCursor(QTextCursor::End);
+        editor.setReadOnly(!isEdited);
+        editor.show();
+        QCOMPARE(editor.verticalScrollBar()->value() > 0, isEdited);
+    }
+}
+
+void tst_CustomTextEditor::showsTheBeginningOfLongLines()
+{
+    CustomTextEditor editor;
+    editor.resize(100, 50);
+    editor.setLineWrapMode(QTextEdit::NoWrap);
+    editor.setPlainText((QString(200, 'x') + '\n').repeated(50));
+    editor.show();
+    editor.moveCursor(QTextCursor::End);
+    editor.moveCursor(QTextCursor::Up);
+    editor.moveCursor(QTextCursor::EndOfLine);
+    QVERIFY(editor.horizontalScrollBar()->value() > 0);
+    editor.showBeginning();
+    QCOMPARE(editor.horizontalScrollBar()->value(), 0);
+    QCOMPARE(editor.verticalScrollBar()->value(), 0);
 }
 
 BOARDWRIGHT_TEST_MAIN(tst_CustomTextEditor)

@@ -43,18 +43,22 @@ void tst_RichText::knowsWhatCanBeShown_data()
     QTest::newRow("long words") << times(5, times(1000, "x") + "\n") << true;
     QTest::newRow("word of entities") << times(600, "&#65;") << false;
     QTest::newRow("many tags") << times(1000, "<b>x</b>") << true;
+    QTest::newRow("words parted by tags") << times(3, times(600, "x") + "<b>") << true;
     QTest::newRow("too many tags") << times(1001, "<b>x</b>") << false;
     QTest::newRow("deep") << times(200, "<div>") << true;
     QTest::newRow("too deep") << times(201, "<div>") << false;
     QTest::newRow("deep, closed in between") << times(201, "<div></div>") << true;
     QTest::newRow("closed too often") << times(300, "</div>") + times(201, "<div>") << false;
     QTest::newRow("never closed") << times(500, "<br><hr/><BR/><meta>") << true;
+    QTest::newRow("declarations") << times(201, "<!x><?x>") << true;
+    QTest::newRow("tables closed too often") << times(20, "</table>") + times(7, "<table><tr><td>") << false;
     QTest::newRow("tables in tables") << times(6, "<table><tr><td>") << true;
     QTest::newRow("too many tables in tables") << times(7, "<TABLE><tr><td>") << false;
     QTest::newRow("tables in a row") << times(50, "<table></table>") << true;
     QTest::newRow("pictures") << times(200, "<img src='x'>") << true;
     QTest::newRow("too many pictures") << times(201, "<IMG align='left'>") << false;
     QTest::newRow("wide table") << "<table width=9999999>" << true;
+    QTest::newRow("table of several numbers") << "<table width=1234567 border=12 cellspacing=3>" << true;
     QTest::newRow("table beyond all numbers") << "<table cellspacing=10000000>" << false;
     QTest::newRow("table with hidden digits") << "<table cellpadding='&#50;000000'>" << false;
     QTest::newRow("digits elsewhere") << "<img src='data:image/png;base64,12345678901'>" << true;
@@ -90,6 +94,10 @@ void tst_RichText::excerptIsReadable_data()
                                 << "Home\nGuest\n";
     QTest::newRow("line break") << "Home<BR/>Guest"
                                 << "Home\nGuest";
+    QTest::newRow("other lines") << "<h1>a</h1><div>b</div><ul><li>c</li></ul><table><tr><td>d</td></tr>"
+                                 << "a\nb\nc\nd\n";
+    QTest::newRow("title and script") << "<title>x</title>Home <script>x</script>Guest"
+                                      << "Home Guest";
     QTest::newRow("head") << "<head><title>x</title><style>p{}</style></head>Home"
                           << "Home";
     QTest::newRow("style sheet") << "Home<STYLE type='a'>p, li { }</STYLE> Guest"

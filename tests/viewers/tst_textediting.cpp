@@ -8,9 +8,12 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QFocusEvent>
 #include <QJsonArray>
+#include <QLineEdit>
 #include <QMenu>
 #include <QPointer>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTextBlock>
 #include <QTimer>
@@ -54,6 +57,22 @@ void leave(TwoTexts &texts, Leaving way)
         screen->newItem("Text");
 }
 
+/// Notes why a widget gets the focus.
+class FocusReasons : public QObject
+{
+public:
+    explicit FocusReasons(QWidget *widget) { widget->installEventFilter(this); }
+    QList<Qt::FocusReason> list;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::FocusIn)
+            list << static_cast<QFocusEvent *>(event)->reason();
+        return QObject::eventFilter(watched, event);
+    }
+};
+
 QString textOf(const QString &html)
 {
     QTextDocument document;
@@ -92,16 +111,20 @@ private slots:
     void leavingShowsTheBeginningAgain();
     void leavingHandsTheFocusToTheFrame_data();
     void leavingHandsTheFocusToTheFrame();
+    void leavingLetsOthersKeepTheFocus();
+    void leavingPutsTheEditorBack();
     void frameMovesAgainAfterwards();
     void canBeEditedAgain();
 
     void typingModifiesTheLayout();
     void savingWhileEditingStoresTheText();
     void savingDoesNotEndEditing();
+    void savingWithoutTypingStoresNothing();
     void undoTakesBackWhatWasTypedAlone();
     void undoEndsWithEditing();
 
     void valuesSetWhileEditingFormatTheSelection();
+    void valuesSetWhileEditingKeepTheView();
     void styleOfTheCursorIsTypedIn();
     void emptyTextIsTypedInItsStyle();
     void replacedTextKeepsItsStyle();
@@ -122,7 +145,9 @@ void tst_TextEditing::doubleClickStartsEditing()
 {
     TwoTexts texts;
     QVERIFY(texts.isReady);
+    const FocusReasons reasons(texts.editor());
     texts.board.startEditing(texts.first);
+    QCOMPARE(reasons.list, QList<Qt::FocusReason>({Qt::OtherFocusReason}));
     QVERIFY(!texts.editor()->isReadOnly());
     QCOMPARE(texts.editor()->parentWidget(), texts.first);
     QCOMPARE(texts.editor()->geometry(), QRect(0, 0, 200, 100));
@@ -439,6 +464,33 @@ void tst_TextEditing::leavingHandsTheFocusToTheFrame()
     QCOMPARE(QApplication::focusWidget(), texts.first);
 }
 
+void tst_TextEditing::leavingLetsOthersKeepTheFocus()
+{
+    TwoTexts texts;
+    QVERIFY(texts.isReady);
+    QLineEdit other(texts.board.window());
+    other.show();
+    texts.board.startEditing(texts.first);
+    other.setFocus();
+    QVERIFY(isEditing(texts.first));
+    leave(texts, RenderMode);
+    QVERIFY(!isEditing(texts.first));
+    QVERIFY(other.hasFocus());
+}
+
+void tst_TextEditing::leavingPutsTheEditorBack()
+{
+    TwoTexts texts;
+    QVERIFY(texts.isReady);
+    texts.board.startEditing(texts.first);
+    texts.editor()->setGeometry(7, 8, 30, 20);
+    leave(texts, Canvas);
+    QCOMPARE(texts.editor()->geometry(), QRect(0, 0, 200, 100));
+    texts.editor()->move(7, 8);
+    texts.board.startEditing(texts.first);
+    QCOMPARE(texts.editor()->geometry(), QRect(0, 0, 200, 100));
+}
+
 void tst_TextEditing::frameMovesAgainAfterwards()
 {
     TwoTexts texts;
@@ -506,6 +558,16 @@ void tst_TextEditing::savingDoesNotEndEditing()
     QCOMPARE(textOf(texts.stored()), QString("Textuals"));
 }
 
+void tst_TextEditing::savingWithoutTypingStoresNothing()
+{
+    TwoTexts texts;
+    QVERIFY(texts.isReady);
+    const QString before = texts.stored();
+    texts.board.startEditing(texts.first);
+    texts.board.screen()->saveLayout();
+    QCOMPARE(texts.stored(), before);
+}
+
 void tst_TextEditing::undoTakesBackWhatWasTypedAlone()
 {
     TwoTexts texts;
@@ -549,6 +611,19 @@ void tst_TextEditing::valuesSetWhileEditingFormatTheSelection()
     texts.board.screen()->loadLayout(texts.board.screen()->saveLayout());
     QCOMPARE(described(*editorIn(texts.board.screen()->items().at(0))->document()).last(),
              QString("Text: Arial 8pt weight 75 #ff0000"));
+}
+
+void tst_TextEditing::valuesSetWhileEditingKeepTheView()
+{
+    TwoTexts texts;
+    QVERIFY(texts.isReady);
+    texts.board.startEditing(texts.first);
+    for (int i = 0; i < 30; ++i)
+        texts.board.type(Qt::Key_Return);
+    for (const char *key : {"Bold", "Vertical_Bottom", "Align_int"}) {
+        texts.first->setValue(key, 12);
+        QVERIFY(texts.editor()->verticalScrollBar()->value() > 0);
+    }
 }
 
 void tst_TextEditing::styleOfTheCursorIsTypedIn()

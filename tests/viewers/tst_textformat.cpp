@@ -132,8 +132,8 @@ QJsonObject generatedText(quint32 seed)
         "<p style='margin-top:30px; font-size:30pt; text-decoration:underline'>12:34</p><p></p>",
         QJsonValue(),
         42};
-    const QVector<QJsonValue> codes = {11, 12, 13, 21, 22,  23,  31,           32,   33,  0,
-                                       5,  15, 42, 99, -13, 1e9, QJsonValue(), "23", 13.0};
+    const QVector<QJsonValue> codes = {11, 12, 13, 21, 22, 23, 31,  32,  33,           0,    1,
+                                       3,  41, 5,  15, 42, 99, -13, 1e9, QJsonValue(), "23", 13.0};
     QJsonObject object = textObject("Text", geometry);
     object.insert("Text", oneOf(random, texts));
     object.insert("Font", oneOf<QJsonValue>(random, {"Arial", "DejaVu Sans", "Nowhere", "", QJsonValue()}));

@@ -179,6 +179,7 @@ void tst_TextOutput::takesGeometryFromItsFrame()
     QCOMPARE(one.text->geometry(), QRect(0, 0, 200, 100));
     QCOMPARE(editorIn(one.frame)->parentWidget(), one.text);
     QCOMPARE(editorIn(one.frame)->geometry(), one.text->rect());
+    QCOMPARE(editorIn(one.frame)->viewport()->size(), QSize(200, 100));
     QVERIFY(editorIn(one.frame)->isVisible());
     QVERIFY(editorIn(one.frame)->isReadOnly());
     QVERIFY(editorIn(one.frame)->acceptRichText());

@@ -335,15 +335,24 @@ void tst_TextPanel::laysItsButtonsOutInRows()
     int below = placeIn(open.panel(), open.editor("Font")).bottom();
     for (const QStringList &row : rows) {
         int right = 0;
+        QList<int> lefts;
         for (const QString &key : row) {
             const QRect place = placeIn(open.panel(), open.editor(key));
             QVERIFY2(place.left() > right && place.top() > below, qPrintable(key));
             right = place.right();
             if (key != " A  ")
                 QCOMPARE(place.width(), 30);
+            lefts << place.left();
         }
         below = placeIn(open.panel(), open.editor(row.first())).bottom();
+        // In groups, from the left.
+        QCOMPARE(lefts.at(1) - lefts.at(0), 35);
+        QCOMPARE(lefts.at(2) - lefts.at(1), 35);
+        const int group = row.size() == 5 ? 4 : 3;
+        QCOMPARE(lefts.at(group) - lefts.at(group - 1), 50);
     }
+    QCOMPARE(open.editor("Size")->width(), 70);
+    QVERIFY(open.editor("Font")->width() > 2 * open.editor("Size")->width());
 }
 
 void tst_TextPanel::styleButtonsReachTheText_data()
