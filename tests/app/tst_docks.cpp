@@ -294,12 +294,14 @@ void tst_Docks::deletingByTheToolBarEmptiesThePanel()
 
 void tst_Docks::buttonsWithoutWordsHaveNames()
 {
-    openSmallBoard();
-    click({15, 15});
-    const QList<QAbstractButton *> buttons = window().findChildren<QAbstractButton *>();
-    for (const QAbstractButton *button : buttons) {
-        if (button->isVisible() && button->text().isEmpty())
-            QVERIFY2(!button->accessibleName().isEmpty(), button->metaObject()->className());
+    for (const char *kind : {"Shape", "Text"}) {
+        canvas().newItem(kind);
+        QVERIFY(edit("X"));
+        const QList<QAbstractButton *> buttons = window().findChildren<QAbstractButton *>();
+        for (const QAbstractButton *button : buttons) {
+            if (button->isVisible() && button->text().isEmpty())
+                QVERIFY2(!button->accessibleName().isEmpty(), button->metaObject()->className());
+        }
     }
     const QList<ToolBarItem *> items = layerToolBar()->findChildren<ToolBarItem *>();
     QCOMPARE(items.size(), 15);
