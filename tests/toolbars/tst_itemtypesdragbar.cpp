@@ -26,6 +26,7 @@ private slots:
     void buttonIsALargeIconWithoutWords_data();
     void buttonIsALargeIconWithoutWords();
     void buttonTellsItsKindToAssistiveTools();
+    void buttonHasItsSizeBeforeItIsShown();
     void buttonKeepsItsSize_data();
     void buttonKeepsItsSize();
     void buttonShowsItsImageWithoutBorder();
@@ -165,6 +166,15 @@ void tst_ItemTypesDragBar::buttonTellsItsKindToAssistiveTools()
     const QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(shown.button(2));
     QCOMPARE(accessible->role(), QAccessible::Button);
     QCOMPARE(accessible->text(QAccessible::Name), QString("Image Viewer"));
+}
+
+void tst_ItemTypesDragBar::buttonHasItsSizeBeforeItIsShown()
+{
+    ItemTypesDragBar bar(nullptr);
+    bar.addItemTypes(fourTypes().mid(0, 1));
+    const auto *button = bar.findChild<QPushButton *>();
+    QCOMPARE(button->minimumSize(), QSize(50, 50));
+    QCOMPARE(button->maximumSize(), QSize(50, 50));
 }
 
 void tst_ItemTypesDragBar::buttonKeepsItsSize_data()
