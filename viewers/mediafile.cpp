@@ -40,7 +40,7 @@ int passesIn(std::string_view piece)
 {
     constexpr char beginning[] = "\xff\xda";
     int passes = 0;
-    for (auto at = piece.find(beginning); at != piece.npos; at = piece.find(beginning, at + 1))
+    for (auto at = piece.find(beginning); at != std::string_view::npos; at = piece.find(beginning, at + 1))
         ++passes;
     return passes;
 }
