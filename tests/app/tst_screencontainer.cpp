@@ -22,6 +22,7 @@ private slots:
     void setScreenTwiceKeepsTheScreen();
     void setScreenOfNoneLeavesNoScreen();
     void forgetsAScreenThatIsDeletedElsewhere();
+    void barsFollowTheViewWithoutAScreen();
     void deletesTheScreenAtTheEnd();
     void centresASmallScreen_data();
     void centresASmallScreen();
@@ -153,6 +154,19 @@ void tst_ScreenContainer::forgetsAScreenThatIsDeletedElsewhere()
     auto *next = new Screen;
     view.container.setScreen(next);
     QCOMPARE(next->parentWidget(), view.container.widget());
+}
+
+// The area keeps the size that the screen gave it, so that the resize of the view alone moves the ranges.
+void tst_ScreenContainer::barsFollowTheViewWithoutAScreen()
+{
+    View view({300, 200}, {800, 400});
+    QVERIFY(view.isShown());
+    delete view.screen;
+    view.container.resize(400, 250);
+    QTRY_COMPARE(view.container.size(), QSize(400, 250));
+    const QSize rest = QSize(800, 400) - view.container.viewport()->size();
+    QCOMPARE(view.container.horizontalScrollBar()->maximum(), rest.width());
+    QCOMPARE(view.container.verticalScrollBar()->maximum(), rest.height());
 }
 
 void tst_ScreenContainer::deletesTheScreenAtTheEnd()

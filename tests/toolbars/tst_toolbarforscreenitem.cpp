@@ -47,7 +47,7 @@ private slots:
     void movesTheLayer();
     void everyPressOfADoubleClickCounts();
     void deletesAllSelectedInOrder();
-    void deletingMarksTheLayoutModifiedWhenTheItemsGo();
+    void deletingDeselectsAtOnceAndModifiesWhenTheItemsGo();
     void separatorDoesNothing();
     void leavesTheFocusOnTheItem();
     void actsOnANewItemAtOnce();
@@ -515,13 +515,15 @@ void tst_ToolBarForScreenItem::deletesAllSelectedInOrder()
     QCOMPARE(namesOf(desk.screen.items()), QStringList("B"));
 }
 
-void tst_ToolBarForScreenItem::deletingMarksTheLayoutModifiedWhenTheItemsGo()
+void tst_ToolBarForScreenItem::deletingDeselectsAtOnceAndModifiesWhenTheItemsGo()
 {
     Desk desk;
     desk.addThree();
     desk.select({"B"});
     // Called and not clicked: handling a click would let the item go at once.
     emit desk.button("Delete")->clicked(desk.button("Delete"));
+    QVERIFY(desk.screen.selection().isEmpty());
+    QVERIFY(selectionIsConsistent(desk.screen));
     QCOMPARE(desk.screen.items().size(), 3);
     QVERIFY(!desk.screen.isModified());
     deleteScheduled();
