@@ -16,6 +16,12 @@ endif()
 if(BOARDWRIGHT_SANITIZE)
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
     add_link_options(-fsanitize=address,undefined)
+    # Many large programs: this linker takes a third of the time of the usual one.
+    find_program(BOARDWRIGHT_LLD ld.lld)
+    mark_as_advanced(BOARDWRIGHT_LLD)
+    if(BOARDWRIGHT_LLD AND CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
+        add_link_options(-fuse-ld=lld)
+    endif()
 endif()
 
 if(BOARDWRIGHT_FUZZERS)

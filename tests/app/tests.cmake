@@ -13,9 +13,15 @@ boardwright_add_test(app/tst_screencontainer LINK boardwright_app)
 boardwright_add_test(app/tst_storm
     LINK boardwright_commandtest SOURCES app/stormuser.cpp app/stormuser.h TIMEOUT 400)
 boardwright_add_test(app/tst_program RUNS boardwright)
-boardwright_add_test(app/x11/tst_realevents SOURCES app/x11/pointer.cpp LINK boardwright_app ON_DISPLAY)
-boardwright_add_test(app/x11/tst_realprogram SOURCES app/x11/pointer.cpp RUNS boardwright ON_DISPLAY)
+
+# The mouse and the keyboard of a real display.
+add_library(boardwright_displaytest STATIC app/x11/pointer.cpp app/x11/pointer.h)
+target_link_libraries(boardwright_displaytest PUBLIC boardwright_testsupport PRIVATE boardwright_warnings)
+
+boardwright_add_test(app/x11/tst_realevents LINK boardwright_app boardwright_displaytest ON_DISPLAY)
+boardwright_add_test(app/x11/tst_realprogram LINK boardwright_displaytest RUNS boardwright ON_DISPLAY)
 boardwright_add_test(app/x11/tst_realupdate
-    SOURCES app/x11/pointer.cpp LINK boardwright_updatetest RUNS boardwright ON_DISPLAY)
+    LINK boardwright_updatetest boardwright_displaytest RUNS boardwright ON_DISPLAY)
 boardwright_add_test(app/x11/tst_twoeditors
-    SOURCES app/x11/editorprocess.cpp app/x11/pointer.cpp LINK boardwright_canvas RUNS boardwright ON_DISPLAY)
+    SOURCES app/x11/editorprocess.cpp app/x11/editorprocess.h
+    LINK boardwright_canvas boardwright_displaytest RUNS boardwright ON_DISPLAY)
