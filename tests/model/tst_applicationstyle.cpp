@@ -411,6 +411,7 @@ void tst_ApplicationStyle::rulesStandInTheirOrder_data()
         "QScrollBar:horizontal",
         "QScrollArea",
         "QScrollArea, QAbstractScrollArea, QWidget[isScrollArea=\"true\"]",
+        "CustomTextEditor",
         "*",
         "QMenu",
         "#ItemType",
@@ -430,7 +431,7 @@ void tst_ApplicationStyle::rulesStandInTheirOrder()
     QFETCH(int, place);
     QFETCH(QString, selectors);
 
-    QCOMPARE(rules().size(), 26);
+    QCOMPARE(rules().size(), 27);
     QCOMPARE(rules().at(place).first, selectors);
 }
 
@@ -456,6 +457,7 @@ void tst_ApplicationStyle::declarationsWithoutVisibleEffectStand_data()
         << "QMenuBar::item, QMenu::item"
         << QStringList({"background-color: transparent", "min-height: 24px"});
     QTest::newRow("a scroll bar has no border of its own") << "QScrollBar" << QStringList("border: none");
+    QTest::newRow("text on the board") << "CustomTextEditor" << QStringList({"background: transparent"});
     QTest::newRow("red is painted over") << "QScrollArea" << QStringList({"background-color: red"});
     QTest::newRow("a separator without margins")
         << "QMainWindow::separator::vertical"
