@@ -191,7 +191,7 @@ void tst_TextEditing::typesAtTheEnd()
     texts.board.write("ual 12:34");
     QCOMPARE(texts.shown(), QString("Textual 12:34"));
     QCOMPARE(texts.editor()->document()->blockCount(), 1);
-    QCOMPARE(described(*texts.editor()->document()).last(),
+    QCOMPARE(described(*texts.editor()->document()).constLast(),
              QString("Textual 12:34: Arial 8pt weight 50 #ffffff"));
     // Stored when it is left.
     QCOMPARE(textOf(texts.stored()), QString("Text"));
@@ -335,7 +335,8 @@ void tst_TextEditing::filterMindsNoOtherWidget()
     QVERIFY(texts.isReady);
     texts.board.startEditing(texts.first);
     QEvent event(QEvent::MouseButtonPress);
-    for (QObject *other : QObjectList({texts.second, texts.editor(), texts.board.screen()}))
+    const QObjectList others({texts.second, texts.editor(), texts.board.screen()});
+    for (QObject *other : others)
         QVERIFY(!textIn(texts.first)->eventFilter(other, &event));
 }
 
@@ -579,7 +580,8 @@ void tst_TextEditing::undoTakesBackWhatWasTypedAlone()
     texts.board.type(Qt::Key_Z, Qt::ControlModifier);
     QCOMPARE(texts.shown(), QString("Text"));
     texts.board.type(Qt::Key_Z, Qt::ControlModifier);
-    QCOMPARE(described(*texts.editor()->document()).last(), QString("Text: Arial 8pt weight 75 #ffffff"));
+    QCOMPARE(described(*texts.editor()->document()).constLast(),
+             QString("Text: Arial 8pt weight 75 #ffffff"));
 }
 
 void tst_TextEditing::undoEndsWithEditing()
@@ -609,7 +611,7 @@ void tst_TextEditing::valuesSetWhileEditingFormatTheSelection()
     // The whole text when it is read anew.
     leave(texts, Canvas);
     texts.board.screen()->loadLayout(texts.board.screen()->saveLayout());
-    QCOMPARE(described(*editorIn(texts.board.screen()->items().at(0))->document()).last(),
+    QCOMPARE(described(*editorIn(texts.board.screen()->items().at(0))->document()).constLast(),
              QString("Text: Arial 8pt weight 75 #ff0000"));
 }
 
@@ -647,7 +649,8 @@ void tst_TextEditing::emptyTextIsTypedInItsStyle()
     texts.first->setValue("Color", "red");
     texts.board.startEditing(texts.first);
     texts.board.write("new");
-    QCOMPARE(described(*texts.editor()->document()).last(), QString("new: Arial 20pt weight 50 #ff0000"));
+    QCOMPARE(described(*texts.editor()->document()).constLast(),
+             QString("new: Arial 20pt weight 50 #ff0000"));
 }
 
 void tst_TextEditing::replacedTextKeepsItsStyle()
@@ -658,11 +661,13 @@ void tst_TextEditing::replacedTextKeepsItsStyle()
     texts.board.startEditing(texts.first);
     texts.board.type(Qt::Key_A, Qt::ControlModifier);
     texts.board.write("new");
-    QCOMPARE(described(*texts.editor()->document()).last(), QString("new: Arial 20pt weight 50 #ffffff"));
+    QCOMPARE(described(*texts.editor()->document()).constLast(),
+             QString("new: Arial 20pt weight 50 #ffffff"));
     texts.board.type(Qt::Key_A, Qt::ControlModifier);
     texts.board.type(Qt::Key_Backspace);
     texts.board.write("newer");
-    QCOMPARE(described(*texts.editor()->document()).last(), QString("newer: Arial 20pt weight 50 #ffffff"));
+    QCOMPARE(described(*texts.editor()->document()).constLast(),
+             QString("newer: Arial 20pt weight 50 #ffffff"));
 }
 
 void tst_TextEditing::resizedFrameResizesTheEditor()

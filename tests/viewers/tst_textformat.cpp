@@ -15,8 +15,11 @@
 
 namespace
 {
-const QMap<int, int> alignmentFlags = {{11, 0x01}, {21, 0x24}, {31, 0x02}, {12, 0x81}, {22, 0x84},
-                                       {32, 0x82}, {13, 0x41}, {23, 0x44}, {33, 0x42}};
+QMap<int, int> alignmentFlags()
+{
+    return {{11, 0x01}, {21, 0x24}, {31, 0x02}, {12, 0x81}, {22, 0x84},
+            {32, 0x82}, {13, 0x41}, {23, 0x44}, {33, 0x42}};
+}
 
 /// The toolkit's own editor, formatted key by key and value by value: what a text's document is to be.
 class Yardstick
@@ -71,8 +74,8 @@ private:
             m_edit.setFontWeight(value.toBool() ? 75 : 50);
         else if (key == "Color")
             setColor(value.toString());
-        else if (key == "Aligment" && alignmentFlags.contains(m_horizontal + m_vertical))
-            m_edit.setAlignment(Qt::Alignment(alignmentFlags.value(m_horizontal + m_vertical)));
+        else if (key == "Aligment" && alignmentFlags().contains(m_horizontal + m_vertical))
+            m_edit.setAlignment(Qt::Alignment(alignmentFlags().value(m_horizontal + m_vertical)));
         QTextCursor cursor = m_edit.textCursor();
         cursor.movePosition(QTextCursor::Left, QTextCursor::MoveAnchor, 4);
         m_edit.setTextCursor(cursor);
@@ -269,7 +272,7 @@ void tst_TextFormat::formatsOneThingAlone()
     const OneText one;
     one.setHtml("<p style='font-family:Ubuntu; font-size:30pt; color:red'><b><i><u>x</u></i></b></p>");
     one.text->setValue(QTest::currentDataTag(), value);
-    QTEST(one.lines().last().mid(3), "look");
+    QTEST(one.lines().constLast().mid(3), "look");
 }
 
 void tst_TextFormat::boldIsOneOfTwoWeights()
@@ -348,7 +351,8 @@ void tst_TextFormat::cutsTheNewsOfTypingOff()
 void tst_TextFormat::alignsEveryParagraph_data()
 {
     QTest::addColumn<int>("code");
-    for (const int code : alignmentFlags.keys())
+    const QList<int> codes = alignmentFlags().keys();
+    for (const int code : codes)
         QTest::addRow("%d", code) << code;
 }
 
@@ -359,7 +363,7 @@ void tst_TextFormat::alignsEveryParagraph()
     one.setHtml("<p>one</p><p align='right'>two</p><p></p>");
     one.text->setValue("Align_int", code);
     for (QTextBlock block = one.editor->document()->begin(); block.isValid(); block = block.next())
-        QCOMPARE(int(block.blockFormat().alignment()), alignmentFlags.value(code));
+        QCOMPARE(int(block.blockFormat().alignment()), alignmentFlags().value(code));
 }
 
 void tst_TextFormat::numbersThatAreNoCodeAlignNothing_data()
@@ -486,7 +490,7 @@ void tst_TextFormat::textTakesTheAlignmentButNoStyle()
     one.text->setValue("Bold", true);
     one.text->setValue("Align_int", 33);
     one.setHtml("<p align='left'>new</p>");
-    QVERIFY(one.lines().last().contains("weight 50"));
+    QVERIFY(one.lines().constLast().contains("weight 50"));
     QCOMPARE(int(one.editor->textCursor().blockFormat().alignment()), 0x42);
     QCOMPARE(topMargin(one.frame), 100 - one.contentHeight());
 }

@@ -606,7 +606,8 @@ void tst_TextOutput::readsMissingParametersAsNothing()
     QVERIFY(one.text->fromJson({{"Type", "Text"}}));
     QCOMPARE(editorIn(one.frame)->toPlainText(), QString());
     QCOMPARE(one.text->getValue("Align_int"), QVariant(0));
-    for (const auto &definition : one.text->getValueNameTypeDefinition()) {
+    const auto definitions = one.text->getValueNameTypeDefinition();
+    for (const auto &definition : definitions) {
         if (definition.second != ContentViewer::Parameters::Int)
             QCOMPARE(one.text->getValue(definition.first).toString(), QString());
     }

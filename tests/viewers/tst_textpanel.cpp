@@ -26,9 +26,16 @@
 
 namespace
 {
-const QStringList styleButtons = {"Auto Size", "Bold", "Italic", "Underlined"};
-const QStringList alignmentButtons = {"Horizontal_Center", "Horizontal_Left", "Horizontal_Right",
-                                      "Vertical_Center",   "Vertical_Top",    "Vertical_Bottom"};
+QStringList styleButtons()
+{
+    return {"Auto Size", "Bold", "Italic", "Underlined"};
+}
+
+QStringList alignmentButtons()
+{
+    return {"Horizontal_Center", "Horizontal_Left", "Horizontal_Right",
+            "Vertical_Center",   "Vertical_Top",    "Vertical_Bottom"};
+}
 
 /// Notes the values that are read.
 class WatchedText : public TextOutput
@@ -197,7 +204,8 @@ void tst_TextPanel::hasAnEditorOfItsTypeForEveryParameter_data()
     QTest::newRow("Italic") << QByteArray("StyledCheckEdit") << QVariant(false);
     QTest::newRow("Underlined") << QByteArray("StyledCheckEdit") << QVariant(false);
     QTest::newRow(" A  ") << QByteArray("FontColorEdit") << QVariant("#ffffff");
-    for (const QString &button : alignmentButtons) {
+    const QStringList keys = alignmentButtons();
+    for (const QString &button : keys) {
         const bool isOn = button == "Horizontal_Left" || button == "Vertical_Top";
         QTest::newRow(qPrintable(button)) << QByteArray("StyledCheckEdit") << QVariant(isOn);
     }
@@ -221,7 +229,7 @@ void tst_TextPanel::makesEditorsInOrder()
     QWidget host;
     text->buildSettingsPanel(&host);
     const QStringList expected = QStringList({"X", "Y", "W", "H", "Text Type", "Font", "Size"}) +
-                                 styleButtons + QStringList("Color") + alignmentButtons;
+                                 styleButtons() + QStringList("Color") + alignmentButtons();
     QCOMPARE(text->readings, expected);
 }
 
@@ -329,7 +337,7 @@ void tst_TextPanel::drawsItsButtonsWithTheseImages()
 void tst_TextPanel::laysItsButtonsOutInRows()
 {
     const OpenPanel open;
-    const QList<QStringList> rows = {styleButtons + QStringList(" A  "),
+    const QList<QStringList> rows = {styleButtons() + QStringList(" A  "),
                                      {"Horizontal_Left", "Horizontal_Center", "Horizontal_Right",
                                       "Vertical_Top", "Vertical_Center", "Vertical_Bottom"}};
     int below = placeIn(open.panel(), open.editor("Font")).bottom();
@@ -358,7 +366,8 @@ void tst_TextPanel::laysItsButtonsOutInRows()
 void tst_TextPanel::styleButtonsReachTheText_data()
 {
     QTest::addColumn<QString>("key");
-    for (const QString &key : styleButtons)
+    const QStringList keys = styleButtons();
+    for (const QString &key : keys)
         QTest::newRow(qPrintable(key)) << key;
 }
 
@@ -411,7 +420,7 @@ void tst_TextPanel::colorReachesTheText()
     QTest::mouseClick(open.part<QToolButton>(" A  "), Qt::LeftButton);
     QVERIFY(answers.areUsedUp());
     QCOMPARE(open.item->getValue("Color"), QVariant("#12ab3c"));
-    QCOMPARE(editorIn(open.item)->textCursor().charFormat().foreground().color(), QColor("#12ab3c"));
+    QCOMPARE(editorIn(open.item)->textCursor().charFormat().foreground().color(), QColor(0x12, 0xab, 0x3c));
 }
 
 void tst_TextPanel::colorIsNotRefreshed()
@@ -420,7 +429,8 @@ void tst_TextPanel::colorIsNotRefreshed()
     // The panel knows the editor by its caption, so news under the key pass it by: on purpose.
     emit open.item->valueChanged("Color", "red");
     QCOMPARE(open.editor(" A  ")->getValue(), QVariant("#ffffff"));
-    for (const QString &key : QStringList({"Bold", "Vertical_Bottom"})) {
+    const QStringList others({"Bold", "Vertical_Bottom"});
+    for (const QString &key : others) {
         emit open.item->valueChanged(key, true);
         QCOMPARE(open.editor(key)->getValue(), QVariant(true));
     }
@@ -474,7 +484,8 @@ void tst_TextPanel::alignmentButtonsReachTheText()
 {
     QFETCH(int, code);
     const OpenPanel open;
-    for (const QString &button : alignmentButtons) {
+    const QStringList keys = alignmentButtons();
+    for (const QString &button : keys) {
         open.item->setValue("Align_int", code);
         if (open.item->getValue(button).toBool())
             continue;
@@ -494,7 +505,8 @@ void tst_TextPanel::alignmentButtonsFollowPressesOfOthers()
 {
     QFETCH(int, code);
     const OpenPanel open;
-    for (const QString &button : alignmentButtons) {
+    const QStringList keys = alignmentButtons();
+    for (const QString &button : keys) {
         open.item->setValue("Align_int", code);
         open.item->setValue(button, true);
         QCOMPARE(open.item->getValue("Align_int"), QVariant(pressed(button, code)));
@@ -579,7 +591,8 @@ void tst_TextPanel::tabWalksFromTopToBottom()
         stops << open.part<QSpinBox>(key);
     stops << header(1) << open.part<QComboBox>("Text Type") << open.part<QComboBox>("Font")
           << open.part<QSpinBox>("Size");
-    for (const QString &key : styleButtons)
+    const QStringList keys = styleButtons();
+    for (const QString &key : keys)
         stops << open.part<QCheckBox>(key);
     stops << open.part<QToolButton>(" A  ");
     for (const char *key : {"Horizontal_Left", "Horizontal_Center", "Horizontal_Right", "Vertical_Top",
@@ -594,7 +607,8 @@ void tst_TextPanel::tabWalksFromTopToBottom()
 
 void tst_TextPanel::nothingIsClippedInTheColumn()
 {
-    const OpenPanel open({{"Font", FontFamilies::list().last()}, {"Text Type", "Visitor Time Out Spot"}});
+    const OpenPanel open(
+        {{"Font", FontFamilies::list().constLast()}, {"Text Type", "Visitor Time Out Spot"}});
     QCOMPARE(open.column.width(), 320);
     const QRect all = open.panel()->viewport()->rect();
     const auto edits = open.panel()->findChildren<VariableEdit *>();

@@ -18,7 +18,10 @@
 
 namespace
 {
-const QJsonObject dark = {{"Width", 300}, {"Height", 200}, {"Background Color", "#102030"}};
+QJsonObject dark()
+{
+    return {{"Width", 300}, {"Height", 200}, {"Background Color", "#102030"}};
+}
 
 /// A text of large white letters on the whole board.
 QJsonObject wholeBoard(const QString &html, const QJsonObject &others = {})
@@ -41,7 +44,7 @@ QRect inkOf(const QImage &picture)
     QRect ink;
     for (int y = 0; y < picture.height(); ++y) {
         for (int x = 0; x < picture.width(); ++x) {
-            if (picture.pixelColor(x, y) != QColor("#102030"))
+            if (picture.pixelColor(x, y) != QColor(0x10, 0x20, 0x30))
                 ink |= QRect(x, y, 1, 1);
         }
     }
@@ -105,7 +108,7 @@ void tst_TextPicture::cleanup()
 
 void tst_TextPicture::open(const QJsonArray &items)
 {
-    QVERIFY(writeFile(path("board.lay"), QJsonDocument(board(items, dark)).toJson()));
+    QVERIFY(writeFile(path("board.lay"), QJsonDocument(board(items, dark())).toJson()));
     m_window->openFile(path("board.lay"));
     QCOMPARE(canvas()->items().size(), items.size());
 }
@@ -156,7 +159,7 @@ void tst_TextPicture::showsWhatLiesBelowWhileItIsEdited()
                       Qt::NoModifier);
     QCoreApplication::sendEvent(frame, &event);
     QVERIFY(isEditing(frame));
-    QCOMPARE(canvas()->grab().toImage().pixelColor(150, 105), QColor("#102030"));
+    QCOMPARE(canvas()->grab().toImage().pixelColor(150, 105), QColor(0x10, 0x20, 0x30));
 }
 
 void tst_TextPicture::hasNoScrollBars()
@@ -223,7 +226,7 @@ void tst_TextPicture::looksTheSameWhenReopened()
     QFETCH(QString, vertical);
     canvas()->setWidgth(300);
     canvas()->setHeight(200);
-    canvas()->setBackgrounColor("#102030");
+    canvas()->setBackgrounColor(QColor(0x10, 0x20, 0x30));
     canvas()->newItem("Text");
     ScreenItem *frame = canvas()->items().at(0);
     frame->setGeometry(20, 20, 250, 150);

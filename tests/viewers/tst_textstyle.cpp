@@ -68,7 +68,7 @@ void tst_TextStyle::readsAnyTypeOfValue()
     QCOMPARE(TextStyle::charFormat("Size", "large").fontPointSize(), 0.0);
     QCOMPARE(TextStyle::charFormat("Size", -5).fontPointSize(), -5.0);
     QCOMPARE(TextStyle::charFormat("Font", QVariant()).fontFamily(), QString());
-    QCOMPARE(TextStyle::charFormat("Color", "#12ab3c").foreground().color(), QColor("#12ab3c"));
+    QCOMPARE(TextStyle::charFormat("Color", "#12ab3c").foreground().color(), QColor(0x12, 0xab, 0x3c));
     QVERIFY(!TextStyle::charFormat("Color", 7).foreground().color().isValid());
 }
 
