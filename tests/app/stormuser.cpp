@@ -85,10 +85,10 @@ const QList<StormUser::Action> &StormUser::actions()
     return all;
 }
 
-StormUser::StormUser(MainWindow &window, quint32 seed)
+StormUser::StormUser(MainWindow &window, quint32 start)
     : m_window(window),
       m_screen(*window.canvas()),
-      m_random(seed)
+      m_random(start)
 {
 }
 

@@ -13,13 +13,13 @@ class QWidget;
 class Screen;
 class ScreenItem;
 
-/// One who works with the window without any plan. What is done follows from the seed alone. The events go
+/// One who works with the window without any plan. Equal start numbers lead to equal actions. The events go
 /// through the window, as those of a mouse and a keyboard do.
 class StormUser
 {
 public:
     /// The window is shown and active, and larger than any board that this user makes.
-    StormUser(MainWindow &window, quint32 seed);
+    StormUser(MainWindow &window, quint32 start);
 
     /// Does one action and lets the window come to rest.
     void act();

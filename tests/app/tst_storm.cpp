@@ -96,25 +96,26 @@ QString tst_Storm::complaintAboutLoading() const
 
 void tst_Storm::leavesTheBoardSound_data()
 {
-    QTest::addColumn<quint32>("seed");
+    QTest::addColumn<quint32>("start");
     QTest::addColumn<bool>("hasColumn");
     // Another storm than the usual one for whoever sets this.
     const auto first = quint32(qMax(1, qEnvironmentVariableIntValue("BOARDWRIGHT_STORM")));
-    for (quint32 seed = first; seed < first + 8; ++seed) {
+    for (quint32 start = first; start < first + 8; ++start) {
         // The panel of every item that becomes active takes most of the time.
-        const bool hasColumn = seed % 8 == 1;
-        QTest::addRow("seed %u, %s", seed, hasColumn ? "with panels" : "without panels") << seed << hasColumn;
+        const bool hasColumn = start % 8 == 1;
+        QTest::addRow("start %u, %s", start, hasColumn ? "with panels" : "without panels")
+            << start << hasColumn;
     }
 }
 
 void tst_Storm::leavesTheBoardSound()
 {
-    QFETCH(quint32, seed);
+    QFETCH(quint32, start);
     QFETCH(bool, hasColumn);
     window().resize(1400, 1000);
     if (!hasColumn)
         QVERIFY(disconnect(&canvas(), &Screen::showSettingsFor, nullptr, nullptr));
-    StormUser user(window(), seed);
+    StormUser user(window(), start);
     for (int count = 1; count <= actionsPerSeed; ++count) {
         user.act();
         QString wrong = complaint();
@@ -123,8 +124,8 @@ void tst_Storm::leavesTheBoardSound()
         if (wrong.isNull() && count % actionsPerLoad == 0)
             wrong = complaintAboutLoading();
         if (!wrong.isNull())
-            QFAIL(qPrintable(QString("seed %1, action %2: %3\n%4")
-                                 .arg(seed)
+            QFAIL(qPrintable(QString("start %1, action %2: %3\n%4")
+                                 .arg(start)
                                  .arg(count)
                                  .arg(wrong, user.lastActions().join('\n'))));
     }

@@ -61,9 +61,9 @@ QByteArray payload(const QJsonArray &items)
     return QJsonDocument(items).toJson();
 }
 
-QByteArray noise(quint32 seed)
+QByteArray noise(quint32 start)
 {
-    QRandomGenerator random(seed);
+    QRandomGenerator random(start);
     QByteArray bytes(random.bounded(1, 5000), '\0');
     for (char &byte : bytes)
         byte = char(random.bounded(256));
@@ -199,8 +199,8 @@ void tst_HostileClipboard::ignoresOtherFormats()
 void tst_HostileClipboard::ignoresNoise_data()
 {
     QTest::addColumn<QByteArray>("bytes");
-    for (quint32 seed = 1; seed <= 50; ++seed)
-        QTest::addRow("seed %u", seed) << noise(seed);
+    for (quint32 start = 1; start <= 50; ++start)
+        QTest::addRow("start %u", start) << noise(start);
     QTest::newRow("marks of an encoding alone") << QByteArray("\xef\xbb\xbf\xff\xfe");
     QTest::newRow("sixteen bits for each letter")
         << QByteArray(reinterpret_cast<const char *>(u"[{\"Type\":\"Shape\"}]"), 36);
@@ -221,15 +221,15 @@ void tst_HostileClipboard::ignoresNoise()
 
 void tst_HostileClipboard::survivesADamagedPayload_data()
 {
-    QTest::addColumn<quint32>("seed");
-    for (quint32 seed = 1; seed <= 5; ++seed)
-        QTest::addRow("seed %u", seed) << seed;
+    QTest::addColumn<quint32>("start");
+    for (quint32 start = 1; start <= 5; ++start)
+        QTest::addRow("start %u", start) << start;
 }
 
 void tst_HostileClipboard::survivesADamagedPayload()
 {
-    QFETCH(quint32, seed);
-    QRandomGenerator random(seed);
+    QFETCH(quint32, start);
+    QRandomGenerator random(start);
     const QByteArray whole = payload(oneOfEachKind());
     for (int round = 0; round < 60; ++round)
         paste(damaged(whole, random));

@@ -70,11 +70,11 @@ bool restacksAsRaisingDoes(Screen &screen, const Frames &before)
 
 void addSeeds()
 {
-    QTest::addColumn<quint32>("seed");
+    QTest::addColumn<quint32>("start");
     QTest::addColumn<int>("count");
     for (const int count : {0, 1, 2, 3, 5, 12, 60}) {
-        for (quint32 seed = 1; seed <= 3; ++seed)
-            QTest::addRow("%d frames, seed %u", count, seed) << seed << count;
+        for (quint32 start = 1; start <= 3; ++start)
+            QTest::addRow("%d frames, start %u", count, start) << start << count;
     }
 }
 
@@ -116,9 +116,9 @@ void tst_ScreenRestack::equalsRaisingEveryFrame_data()
 
 void tst_ScreenRestack::equalsRaisingEveryFrame()
 {
-    QFETCH(quint32, seed);
+    QFETCH(quint32, start);
     QFETCH(int, count);
-    QRandomGenerator random(seed);
+    QRandomGenerator random(start);
     Screen screen;
     screen.loadLayout(board(manyShapes(count)));
     for (int round = 0; round < 20; ++round)
@@ -133,9 +133,9 @@ void tst_ScreenRestack::equalsRaisingEveryFrameWhenSomeAreListedTwice_data()
 
 void tst_ScreenRestack::equalsRaisingEveryFrameWhenSomeAreListedTwice()
 {
-    QFETCH(quint32, seed);
+    QFETCH(quint32, start);
     QFETCH(int, count);
-    QRandomGenerator random(seed);
+    QRandomGenerator random(start);
     Screen screen;
     screen.loadLayout(board(manyShapes(count)));
     const Frames once = screen.items();

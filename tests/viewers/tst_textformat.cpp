@@ -119,10 +119,10 @@ Value oneOf(QRandomGenerator &random, const QVector<Value> &values)
     return values.at(random.bounded(values.size()));
 }
 
-/// Values of every kind that a layout may hold, other ones for each seed.
-QJsonObject generatedText(quint32 seed)
+/// Values of every kind that a layout may hold, other ones for each start number.
+QJsonObject generatedText(quint32 start)
 {
-    QRandomGenerator random(seed);
+    QRandomGenerator random(start);
     const QRect geometry(random.bounded(200), random.bounded(100), 20 + random.bounded(400),
                          10 + random.bounded(250));
     const QVector<QJsonValue> texts = {
@@ -497,8 +497,8 @@ void tst_TextFormat::textTakesTheAlignmentButNoStyle()
 
 void tst_TextFormat::isWhatTheToolkitMakesStepByStep()
 {
-    for (quint32 seed = 0; seed < 60; ++seed) {
-        const QJsonObject object = generatedText(seed);
+    for (quint32 start = 0; start < 60; ++start) {
+        const QJsonObject object = generatedText(start);
         const QSize size(object.value("W").toInt(), object.value("H").toInt());
         const OneText one;
         one.frame->setGeometry(QRect({0, 0}, size));
@@ -515,8 +515,8 @@ void tst_TextFormat::isWhatTheToolkitMakesStepByStep()
 
 void tst_TextFormat::readingAtOnceIsReadingOneByOne()
 {
-    for (quint32 seed = 0; seed < 100; ++seed) {
-        const QJsonObject object = generatedText(seed);
+    for (quint32 start = 0; start < 100; ++start) {
+        const QJsonObject object = generatedText(start);
         const OneText atOnce;
         const OneText oneByOne;
         atOnce.text->fromJson(object);
@@ -524,8 +524,8 @@ void tst_TextFormat::readingAtOnceIsReadingOneByOne()
         for (const auto &definition : definitions)
             oneByOne.text->setValue(definition.first, asFilesGiveIt(object.value(definition.first)));
         QVERIFY2(atOnce.lines() == oneByOne.lines(),
-                 qPrintable(QString("seed %1:\n%2\nnot\n%3")
-                                .arg(seed)
+                 qPrintable(QString("start %1:\n%2\nnot\n%3")
+                                .arg(start)
                                 .arg(atOnce.lines().join('\n'), oneByOne.lines().join('\n'))));
         QCOMPARE(atOnce.text->getValues(), oneByOne.text->getValues());
         QCOMPARE(atOnce.frame->geometry(), oneByOne.frame->geometry());
@@ -535,9 +535,9 @@ void tst_TextFormat::readingAtOnceIsReadingOneByOne()
 
 void tst_TextFormat::readingTwiceIsReadingOneByOne()
 {
-    for (quint32 seed = 0; seed < 60; ++seed) {
-        const QJsonObject first = generatedText(seed);
-        const QJsonObject second = generatedText(seed + 1000);
+    for (quint32 start = 0; start < 60; ++start) {
+        const QJsonObject first = generatedText(start);
+        const QJsonObject second = generatedText(start + 1000);
         const OneText atOnce;
         const OneText oneByOne;
         for (const QJsonObject &object : {first, second}) {
@@ -552,10 +552,10 @@ void tst_TextFormat::readingTwiceIsReadingOneByOne()
 
 void tst_TextFormat::readingUnseenIsReadingInView()
 {
-    for (quint32 seed = 0; seed < 60; ++seed) {
+    for (quint32 start = 0; start < 60; ++start) {
         QJsonArray texts;
         for (quint32 i = 0; i < 3; ++i)
-            texts.append(generatedText(seed * 3 + i));
+            texts.append(generatedText(start * 3 + i));
         const QJsonObject layout = {{"items", texts},
                                     {"parameters", QJsonObject{{"Width", 800}, {"Height", 400}}}};
         Screen unseen;
