@@ -7,6 +7,7 @@
 #include "tests/support/strictmain.h"
 #include "tests/viewers/mediaboard.h"
 #include "tests/viewers/mediafolder.h"
+#include "tests/viewers/panelparts.h"
 #include "viewers/animationviewer.h"
 #include "viewers/imagevieweritem.h"
 #include "viewers/videovieweritem.h"
@@ -102,12 +103,7 @@ void tst_MediaPanel::cleanup()
 
 VariableEdit *tst_MediaPanel::editor(const QString &key) const
 {
-    const auto edits = m_host->findChildren<VariableEdit *>();
-    for (VariableEdit *edit : edits) {
-        if (edit->getKey() == key)
-            return edit;
-    }
-    qFatal("no editor for %s", qPrintable(key));
+    return editorFor(key, *m_host);
 }
 
 void tst_MediaPanel::hasTwoCategoriesWithTheirEditors()

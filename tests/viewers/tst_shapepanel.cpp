@@ -15,6 +15,7 @@
 #include "tests/editors/coloranswers.h"
 #include "tests/support/boards.h"
 #include "tests/support/strictmain.h"
+#include "tests/viewers/panelparts.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -28,21 +29,6 @@
 
 namespace
 {
-/// Notes the values that are read.
-class WatchedShape : public Shape
-{
-public:
-    using Shape::Shape;
-
-    QVariant getValue(QString key) override
-    {
-        readings << key;
-        return Shape::getValue(key);
-    }
-
-    QStringList readings;
-};
-
 /// A canvas of 800 x 400 px with an item at (30, 40) of 100 x 50 px and its open panel.
 struct OpenPanel {
     explicit OpenPanel(const QMap<QString, QVariant> &others = {})
@@ -62,15 +48,7 @@ struct OpenPanel {
         host->show();
     }
 
-    VariableEdit *editor(const QString &key) const
-    {
-        const auto edits = host->findChildren<VariableEdit *>();
-        for (VariableEdit *edit : edits) {
-            if (edit->getKey() == key)
-                return edit;
-        }
-        qFatal("no editor for %s", qPrintable(key));
-    }
+    VariableEdit *editor(const QString &key) const { return editorFor(key, *host); }
 
     template <class Widget>
     Widget *part(const QString &key) const
@@ -219,7 +197,7 @@ void tst_ShapePanel::hasAnEditorOfItsTypeForEveryParameter()
 void tst_ShapePanel::makesEditorsInOrder()
 {
     QWidget frame;
-    auto *shape = new WatchedShape(&frame);
+    auto *shape = new Watched<Shape>(&frame);
     QWidget host;
     shape->buildSettingsPanel(&host);
     QCOMPARE(shape->readings, allKeys());

@@ -10,6 +10,7 @@
 #include "model/fontfamilies.h"
 #include "tests/editors/coloranswers.h"
 #include "tests/support/strictmain.h"
+#include "tests/viewers/panelparts.h"
 #include "tests/viewers/textboard.h"
 #include "viewers/customtexteditor.h"
 #include "viewers/datafields.h"
@@ -37,21 +38,6 @@ QStringList alignmentButtons()
             "Vertical_Center",   "Vertical_Top",    "Vertical_Bottom"};
 }
 
-/// Notes the values that are read.
-class WatchedText : public TextOutput
-{
-public:
-    using TextOutput::TextOutput;
-
-    QVariant getValue(QString key) override
-    {
-        readings << key;
-        return TextOutput::getValue(key);
-    }
-
-    QStringList readings;
-};
-
 /// A text at (30, 40) of 200 x 100 px on a canvas of 800 x 400 px and its open panel in the settings column.
 struct OpenPanel {
     explicit OpenPanel(const QMap<QString, QVariant> &others = {})
@@ -68,15 +54,7 @@ struct OpenPanel {
     }
 
     /// The font colour's editor is known by its caption.
-    VariableEdit *editor(const QString &key) const
-    {
-        const auto edits = column.findChildren<VariableEdit *>();
-        for (VariableEdit *edit : edits) {
-            if (edit->getKey() == key)
-                return edit;
-        }
-        qFatal("no editor for %s", qPrintable(key));
-    }
+    VariableEdit *editor(const QString &key) const { return editorFor(key, column); }
 
     template <class Widget>
     Widget *part(const QString &key) const
@@ -225,7 +203,7 @@ void tst_TextPanel::hasAnEditorOfItsTypeForEveryParameter()
 void tst_TextPanel::makesEditorsInOrder()
 {
     QWidget frame;
-    auto *text = new WatchedText(&frame);
+    auto *text = new Watched<TextOutput>(&frame);
     QWidget host;
     text->buildSettingsPanel(&host);
     const QStringList expected = QStringList({"X", "Y", "W", "H", "Text Type", "Font", "Size"}) +
