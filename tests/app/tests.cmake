@@ -25,3 +25,4 @@ boardwright_add_test(app/x11/tst_realupdate
 boardwright_add_test(app/x11/tst_twoeditors
     SOURCES app/x11/editorprocess.cpp app/x11/editorprocess.h
     LINK boardwright_canvas boardwright_displaytest RUNS boardwright ON_DISPLAY)
+boardwright_needs_diverted_endpoint(app/tst_updatecommand app/x11/tst_realupdate)
