@@ -13,6 +13,9 @@ private slots:
     void showsNothingWhenThisVersionIsPublished();
     void downloadsAnotherVersion();
     void checksAnewAtEachUse();
+    void asksTwiceAtATime_data();
+    void asksTwiceAtATime();
+    void runsItsFileWhileAnotherCheckHangs();
     void savesByKeyWhileTheServerKeepsSilent();
     void quitsWhileTheServerKeepsSilent_data();
     void quitsWhileTheServerKeepsSilent();
@@ -36,6 +39,27 @@ struct Endpoint : HttpServer {
     }
     ~Endpoint() override { QDir::setCurrent(QDir::rootPath()); }
     Q_DISABLE_COPY(Endpoint)
+
+    /// Lets the first check wait and does this meanwhile; later ones find this file under /second.run.
+    void keepFirstWaiting(const QByteArray &file, const std::function<void()> &meanwhile)
+    {
+        give("/second.run", httpAnswer(file));
+        on(descriptorPath(), [this, meanwhile](QTcpSocket *socket) {
+            waiting = socket;
+            give(descriptorPath(), descriptorAnswer("1.0", url("/second.run")));
+            meanwhile();
+        });
+    }
+
+    /// Answers the first check; without a version the connection is closed in the middle.
+    void answerFirst(const QString &version)
+    {
+        const QByteArray answer = descriptorAnswer(version, url("/first.run"));
+        waiting->write(version.isEmpty() ? answer.chopped(1) : answer);
+        waiting->disconnectFromHost();
+    }
+
+    QPointer<QTcpSocket> waiting;
 };
 } // namespace
 
@@ -89,6 +113,72 @@ void tst_UpdateCommand::checksAnewAtEachUse()
     triggerUpdates();
     QTRY_VERIFY(answers.areUsedUp());
     QCOMPARE(answers.seen().constFirst().title, QString("Download of failed"));
+}
+
+void tst_UpdateCommand::asksTwiceAtATime_data()
+{
+    QTest::addColumn<QString>("version");
+    QTest::addColumn<bool>("isBoxOpen");
+    QTest::addColumn<QStringList>("saved");
+
+    for (const bool isBoxOpen : {true, false}) {
+        const auto row = [isBoxOpen](const char *what, const QString &version, const QStringList &saved) {
+            QTest::addRow("%s, %s the box", what, isBoxOpen ? "during" : "after")
+                << version << isBoxOpen << saved;
+        };
+        row("closed in the middle", QString(), {"second.run"});
+        row("this version", "0.9", {"second.run"});
+        row("another version", "0.8", {"second.run", "first.run"});
+    }
+}
+
+// The first check gets its answer when the second has found, fetched and told of its file.
+void tst_UpdateCommand::asksTwiceAtATime()
+{
+    QFETCH(QString, version);
+    QFETCH(bool, isBoxOpen);
+    QFETCH(QStringList, saved);
+
+    Endpoint endpoint(path(""));
+    endpoint.keepFirstWaiting("new", [this] { triggerUpdates(); });
+    endpoint.give("/first.run", httpAnswer("newer"));
+    DialogAnswers answers;
+    answers.act([&](QDialog *dialog) {
+        if (!isBoxOpen)
+            QTimer::singleShot(0, &endpoint, [&] { endpoint.answerFirst(version); });
+        else if (endpoint.waiting && endpoint.waiting->state() == QTcpSocket::ConnectedState)
+            endpoint.answerFirst(version);
+        const bool isToStay = isBoxOpen && endpoint.waiting;
+        if (!isToStay)
+            dialog->done(QDialog::Rejected);
+        return !isToStay;
+    });
+    for (int more = 1; more < saved.size(); ++more)
+        answers.press("Close");
+    triggerUpdates();
+    QTRY_VERIFY(answers.areUsedUp());
+    QCoreApplication::processEvents();
+    QCOMPARE(answers.seen().size(), saved.size());
+    for (int box = 0; box < saved.size(); ++box)
+        QVERIFY(answers.seen().at(box).text.endsWith("succeeded (saved to " + saved.at(box) + ")"));
+    QCOMPARE(files().size(), saved.size());
+    QCOMPARE(endpoint.requests().size(), 2 + saved.size());
+    QCOMPARE(readFile(path("second.run")), QByteArray("new"));
+    QVERIFY(window().isVisible());
+}
+
+void tst_UpdateCommand::runsItsFileWhileAnotherCheckHangs()
+{
+    Endpoint endpoint(path(""));
+    endpoint.keepFirstWaiting("#!/bin/sh\necho >report\n", [this] { triggerUpdates(); });
+    DialogAnswers answers;
+    answers.press("Run");
+    QTimer::singleShot(0, &endpoint, [this] { triggerUpdates(); });
+    QTimer::singleShot(20000, &endpoint, [] { QCoreApplication::exit(1); });
+    QCOMPARE(QApplication::exec(), 0);
+    QVERIFY(answers.areUsedUp());
+    QVERIFY(endpoint.waiting);
+    QTRY_VERIFY(QFile::exists(path("report")));
 }
 
 void tst_UpdateCommand::savesByKeyWhileTheServerKeepsSilent()
