@@ -23,6 +23,7 @@ private slots:
     void takesNoLargerDescriptor_data();
     void takesNoLargerDescriptor();
     void stopsReadingAnEndlessDescriptor();
+    void readsNoFurtherWhileAnotherCheckHoldsItUp();
     void logsTheDescriptor();
     void handlesKeysWhileAnAnswerTrickles();
     void canBeUsedAgainMeanwhile();
@@ -49,6 +50,17 @@ QByteArray paddedDescriptor(int length)
 QByteArray headOfLength(qint64 length)
 {
     return "HTTP/1.1 200 OK\r\nContent-Length: " + QByteArray::number(length) + "\r\n\r\n";
+}
+
+/// Sends what is left byte by byte, each once the one before is on its way.
+void trickle(QTcpSocket *socket, QByteArray *rest)
+{
+    const auto sendByte = [socket, rest] {
+        socket->write(rest->left(1));
+        rest->remove(0, 1);
+    };
+    QObject::connect(socket, &QTcpSocket::bytesWritten, socket, sendByte);
+    sendByte();
 }
 
 /// Runs the application until it quits; false when that has to be forced.
@@ -225,6 +237,22 @@ void tst_UpdateCheck::stopsReadingAnEndlessDescriptor()
     QVERIFY(sent > mebibyte);
     // What the system's own buffers between the two take comes on top.
     QVERIFY2(sent < 32 * mebibyte, qPrintable(QString::number(sent)));
+}
+
+// The first check has enough, but ends only after the second.
+void tst_UpdateCheck::readsNoFurtherWhileAnotherCheckHoldsItUp()
+{
+    qint64 unsent = 0;
+    server().on(descriptorPath(), [&](QTcpSocket *first) {
+        first->write("HTTP/1.1 200 OK\r\n\r\n" + paddedDescriptor(128 * mebibyte));
+        QByteArray rest = httpAnswer(paddedDescriptor(2000));
+        server().on(descriptorPath(), [&rest](QTcpSocket *socket) { trickle(socket, &rest); });
+        UpdateMagaer second;
+        QVERIFY(second.check());
+        unsent = first->bytesToWrite();
+    });
+    QVERIFY(!quietCheck());
+    QVERIFY2(unsent > 64 * mebibyte, qPrintable(QString::number(unsent)));
 }
 
 void tst_UpdateCheck::logsTheDescriptor()

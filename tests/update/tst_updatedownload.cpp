@@ -21,6 +21,7 @@ private slots:
     void savesOutsideNothing_data();
     void savesOutsideNothing();
     void savesALargeFileWhole();
+    void savesWhatIsPackedAsItIs();
     void replacesAnOlderFile();
     void replacesALinkAndNotItsTarget_data();
     void replacesALinkAndNotItsTarget();
@@ -156,8 +157,11 @@ void tst_UpdateDownload::savesUnderTheNameOfTheAddress_data()
     row("query", "/setup.run?version=1.0", "/setup.run", "setup.run");
     row("space", "/my setup.run", "/my%20setup.run", "my setup.run");
     row("encoded space", "/my%20setup.run", "/my%20setup.run", "my setup.run");
+    row("space at the end", "/setup.run ", "/setup.run%20", "setup.run ");
     row("looks like a place holder", "/%251%252.run", "/%251%252.run", "%1%2.run");
     row("device name", "/aux.run", "/aux.run", "download");
+    // Its one byte is no text in an address, so the place holder for that stands there.
+    row("letter of Latin-1", "/\xc3\xa9.run", "/%EF%BF%BD.run", "\xef\xbf\xbd.run");
     // Letters beyond Latin-1 become question marks on purpose, and so begin a query.
     row("letters beyond Latin-1", "/\xd0\xb6/setup.run", "/", "download");
 }
@@ -219,6 +223,18 @@ void tst_UpdateDownload::savesALargeFileWhole()
     answers.press("Close");
     download(server().url("/setup.run"), answers);
     QVERIFY(readFile("setup.run") == bytes);
+}
+
+// A few bytes could unpack to more than any disk holds.
+void tst_UpdateDownload::savesWhatIsPackedAsItIs()
+{
+    const QByteArray packed = QByteArray::fromHex("1f8b0800000000000203cb4b2d07004544e36b03000000");
+    server().give("/setup.run", httpAnswer(packed, "200 OK", "Content-Encoding: gzip\r\n"));
+    DialogAnswers answers;
+    answers.press("Close");
+    download(server().url("/setup.run"), answers);
+    QVERIFY(server().lastHeaders().contains("Accept-Encoding: identity\r\n"));
+    QCOMPARE(readFile("setup.run"), packed);
 }
 
 // Deleted first, not written over: another name of the old file keeps its bytes.
