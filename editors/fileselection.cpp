@@ -1,6 +1,6 @@
 #include "editors/fileselection.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QFileDialog>
 #include <QPointer>
 
@@ -10,6 +10,8 @@ std::optional<QString> selectFile(QWidget *parent)
     // meanwhile.
     const QString caption = QCoreApplication::translate("FileSelection", "Select any file...");
     const QPointer<QFileDialog> dialog = new QFileDialog(parent, caption);
+    // Whatever sheets the parent lies under, the see-through one around the canvas among them.
+    dialog->setStyleSheet(qApp->styleSheet());
     dialog->setFileMode(QFileDialog::ExistingFile);
     const bool isChosen = dialog->exec() == QDialog::Accepted;
     if (!dialog)

@@ -48,6 +48,7 @@ private slots:
     void showsNothingForInvalidValue();
 
     void opensDialogForAnyExistingFile();
+    void dialogLooksLikeTheApplication();
     void startsDialogWhereStaticFunctionDoes();
     void tellsChosenFile();
     void opensDialogBySpaceKey();
@@ -167,6 +168,22 @@ void tst_FilePathEdit::opensDialogForAnyExistingFile()
     QCOMPARE(seen.title, QString("Select any file..."));
     QCOMPARE(seen.acceptMode, QFileDialog::AcceptOpen);
     QCOMPARE(seen.fileMode, QFileDialog::ExistingFile);
+}
+
+void tst_FilePathEdit::dialogLooksLikeTheApplication()
+{
+    qApp->setStyleSheet("QWidget{background-color:#123456}");
+    m_edit->setStyleSheet("background:transparent;");
+    DialogAnswers answers;
+    QColor color;
+    answers.act([&color](QDialog *dialog) {
+        color = dialog->grab().toImage().pixelColor(1, 1);
+        dialog->reject();
+        return true;
+    });
+    clickButton();
+    qApp->setStyleSheet(QString());
+    QCOMPARE(color, QColor("#123456"));
 }
 
 void tst_FilePathEdit::startsDialogWhereStaticFunctionDoes()
