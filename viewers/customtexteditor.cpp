@@ -6,9 +6,11 @@
 #include <QApplication>
 #include <QBuffer>
 #include <QContextMenuEvent>
+#include <QDrag>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMimeData>
+#include <QMouseEvent>
 #include <QScrollBar>
 #include <QUrl>
 
@@ -55,6 +57,12 @@ QString markupOf(const QMimeData &source)
         return QString::fromUtf8(source.data(ownFormat));
     return source.hasHtml() ? source.html() : markupOf(source.text());
 }
+
+/// Whether words are being dragged out of the editor, or were until just now.
+bool hasDrag(const QTextEdit &editor)
+{
+    return editor.viewport()->findChild<QDrag *>(QString(), Qt::FindDirectChildrenOnly);
+}
 } // namespace
 
 CustomTextEditor::CustomTextEditor(QWidget *parent) : QTextEdit(parent) {}
@@ -94,6 +102,27 @@ void CustomTextEditor::keyPressEvent(QKeyEvent *event)
     QTextEdit::keyPressEvent(event);
     if (!isReadOnly())
         event->accept();
+}
+
+void CustomTextEditor::mousePressEvent(QMouseEvent *event)
+{
+    m_hasDragged = false;
+    m_pressPosition = event->pos();
+    QTextEdit::mousePressEvent(event);
+}
+
+void CustomTextEditor::mouseMoveEvent(QMouseEvent *event)
+{
+    if (m_hasDragged || hasDrag(*this))
+        return;
+    QTextEdit::mouseMoveEvent(event);
+    m_hasDragged = hasDrag(*this);
+    if (!m_hasDragged)
+        return;
+    // The drag has kept the button's release to itself. Outside the editor the toolkit would go on scrolling,
+    // and begin the same drag again and again: no other event would ever be served.
+    QMouseEvent back(QEvent::MouseMove, m_pressPosition, Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+    QTextEdit::mouseMoveEvent(&back);
 }
 
 void CustomTextEditor::showEvent(QShowEvent *event)

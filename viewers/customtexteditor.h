@@ -29,12 +29,17 @@ protected:
     /// Keeps every key while the text is edited, shift alone included: the frame would move, be deleted, or
     /// tell its geometry to the whole selection.
     void keyPressEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    /// With one press selected words are dragged once.
+    void mouseMoveEvent(QMouseEvent *event) override;
     /// A text that is larger than the editor shows its beginning; the toolkit would look for its cursor.
     void showEvent(QShowEvent *event) override;
     /// Of what is too much to be shown only the beginning is inserted.
     void insertFromMimeData(const QMimeData *source) override;
 
 private:
+    QPoint m_pressPosition;
+    bool m_hasDragged = false; // with the latest press
     qint64 m_pictureBytes = 0; // of all pictures so far
     MemoryClaim m_claim;
 };

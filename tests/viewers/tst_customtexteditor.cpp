@@ -12,6 +12,7 @@
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QDataStream>
+#include <QDrag>
 #include <QJsonArray>
 #include <QMenu>
 #include <QMimeData>
@@ -20,6 +21,7 @@
 #include <QTcpServer>
 #include <QTemporaryDir>
 #include <QTextBlock>
+#include <QTimer>
 
 #ifdef Q_OS_UNIX
 #include <sys/stat.h>
@@ -80,6 +82,34 @@ QStringList askingFor(const QString &address)
     return pages;
 }
 
+/// Tells the editor of a mouse whose left button is held.
+void mouse(CustomTextEditor &editor, QEvent::Type type, QPoint position)
+{
+    QMouseEvent event(type, position, editor.viewport()->mapToGlobal(position), Qt::LeftButton,
+                      Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(editor.viewport(), &event);
+}
+
+/// Counts the drags that a widget begins.
+class DragCounter : public QObject
+{
+public:
+    explicit DragCounter(QWidget *widget) { widget->installEventFilter(this); }
+    int count() const { return m_count; }
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        // While it is added, a child is not yet known by its class; a drag is the only one that is no widget.
+        if (event->type() == QEvent::ChildAdded &&
+            !static_cast<QChildEvent *>(event)->child()->isWidgetType())
+            ++m_count;
+        return false;
+    }
+
+private:
+    int m_count = 0;
+};
+
 /// Shows the HTML from a layout file, in the clipboard's way and in a picture.
 void show(const QString &html)
 {
@@ -127,6 +157,7 @@ private slots:
     void contextMenuIsDressedAndGoes();
 
     void keepsKeysWhileItIsEdited();
+    void draggedWordsAreDraggedOnce();
     void showsTheBeginningWhenItAppears();
     void showsTheBeginningOfLongLines();
 };
@@ -401,6 +432,28 @@ void tst_CustomTextEditor::keepsKeysWhileItIsEdited()
         QCoreApplication::sendEvent(&editor, &event);
         QCOMPARE(event.isAccepted(), isEdited);
     }
+}
+
+void tst_CustomTextEditor::draggedWordsAreDraggedOnce()
+{
+    CustomTextEditor editor;
+    editor.setPlainText("words to drag");
+    editor.selectAll();
+    editor.resize(200, 60);
+    editor.show();
+    QTimer ending; // of every drag, as the release of the button ends it
+    connect(&ending, &QTimer::timeout, &editor, [] { QDrag::cancel(); });
+    ending.start(0);
+    const DragCounter drags(editor.viewport());
+    const QPoint inside = editor.cursorRect(QTextCursor(editor.document())).center() + QPoint(10, 0);
+    mouse(editor, QEvent::MouseButtonPress, inside);
+    // The toolkit goes on by itself to tell of a mouse that is outside.
+    for (int i = 0; i < 3; ++i) {
+        mouse(editor, QEvent::MouseMove, inside + QPoint(0, 300));
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    QCOMPARE(drags.count(), 1);
+    QCOMPARE(editor.toPlainText(), QString("words to drag"));
 }
 
 void tst_CustomTextEditor::showsTheBeginningWhenItAppears()
