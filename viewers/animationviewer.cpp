@@ -36,14 +36,14 @@ void AnimationViewer::openFile(const QString &path)
         return;
     m_label->setMovie(movie.get());
     m_movie = std::move(movie);
+    m_frameSize = frame;
     connect(m_movie.get(), &QMovie::frameChanged, this, &AnimationViewer::restIfHurried);
     connect(m_movie.get(), &QMovie::finished, this, &AnimationViewer::playAgain);
     takeSize(frame);
     layOut();
     fitMovie();
     // The first frame is there already, in its own size.
-    if (m_movie->scaledSize() != frame)
-        startAnew();
+    startAnewIfResized();
     pauseOrResume();
 }
 
@@ -56,10 +56,18 @@ void AnimationViewer::layOut()
 
 void AnimationViewer::startAnew()
 {
+    m_frameSize = m_movie->scaledSize();
     m_movie->stop();
     // The movie's own way back looks for the beginning where it has stopped reading.
     m_movie->device()->seek(0);
     m_movie->start();
+    pauseOrResume();
+}
+
+void AnimationViewer::startAnewIfResized()
+{
+    if (m_movie->scaledSize() != m_frameSize)
+        startAnew();
 }
 
 void AnimationViewer::fitMovie()
@@ -73,6 +81,9 @@ void AnimationViewer::fitMovie()
     const bool isAffordable = MediaFile::isWithin(stretched, MediaFile::maximumFrameArea) &&
                               m_stretchedClaim.take(MediaFile::bytesOf(stretched));
     m_movie->setScaledSize(isAffordable ? stretched : QSize());
+    // No frame in the new size will follow a single one.
+    if (m_movie->state() == QMovie::NotRunning)
+        startAnewIfResized();
 }
 
 void AnimationViewer::playAgain()
@@ -80,6 +91,8 @@ void AnimationViewer::playAgain()
     // Also a file that is to be played a few times only. A single frame has nothing to play.
     if (m_movie->currentFrameNumber() > 0)
         startAnew();
+    else
+        startAnewIfResized();
 }
 
 void AnimationViewer::restIfHurried()

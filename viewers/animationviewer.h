@@ -3,6 +3,7 @@
 #include "viewers/mediaviewer.h"
 #include "viewers/memoryclaim.h"
 
+#include <QSize>
 #include <QTimer>
 
 #include <memory>
@@ -29,12 +30,14 @@ private:
     void layOut();
     void fitMovie();
     void startAnew();
+    void startAnewIfResized();
     void playAgain();
     void restIfHurried();
     void pauseOrResume();
 
     QLabel *m_label = nullptr;
     std::unique_ptr<QMovie> m_movie;
+    QSize m_frameSize; // that the movie was started with, not valid for its own
     MemoryClaim m_claim;
     MemoryClaim m_stretchedClaim;
     QTimer m_rest; // runs while a movie that leaves the window no time is held up

@@ -50,6 +50,10 @@ private slots:
     void showsTheNewestMovieAlone();
     void readsTheSamePathAnew();
     void showsAStillPicture();
+    void showsAResizedPictureAsIfItWereReadInThatSize_data();
+    void showsAResizedPictureAsIfItWereReadInThatSize();
+    void readsAPictureAnewOnlyInAnotherSize();
+    void showsAPictureThatWasResizedWhileItWasHidden();
     void showsASingleFrame();
     void playsOnThoughTheFileSaysOnce();
     void playsOnThoughSomethingFollowsTheMovie();
@@ -143,7 +147,7 @@ void tst_AnimationViewer::scalesTheRunningMovieOnResize()
         QCOMPARE(board.label()->geometry(), QRect(QPoint(0, 0), size));
         QCOMPARE(board.movie()->scaledSize(), size);
         QTRY_COMPARE(board.movie()->currentPixmap().size(), size);
-        QCOMPARE(board.movie()->state(), QMovie::Running);
+        QTRY_COMPARE(board.movie()->state(), QMovie::Running);
     }
 }
 
@@ -232,8 +236,75 @@ void tst_AnimationViewer::showsAStillPicture()
     QCOMPARE(board.frame->size(), QSize(70, 30));
     QTRY_COMPARE(board.movie()->state(), QMovie::NotRunning);
     QCOMPARE(board.picture(), MediaFolder::chequered({70, 30}));
+}
+
+void tst_AnimationViewer::showsAResizedPictureAsIfItWereReadInThatSize_data()
+{
+    QTest::addColumn<bool>("hasEnded");
+    QTest::addColumn<QSize>("size");
+    for (const bool hasEnded : {false, true}) {
+        const char *when = hasEnded ? "in view for long" : "just come";
+        QTest::addRow("larger, %s", when) << hasEnded << QSize(140, 60);
+        QTest::addRow("smaller, %s", when) << hasEnded << QSize(35, 29);
+        QTest::addRow("a single pixel, %s", when) << hasEnded << QSize(1, 1);
+    }
+}
+
+void tst_AnimationViewer::showsAResizedPictureAsIfItWereReadInThatSize()
+{
+    QFETCH(bool, hasEnded);
+    QFETCH(QSize, size);
+    const QString path = m_folder.picture({70, 30});
+    AnimationBoard fresh;
+    QVERIFY(fresh.content->fromJson({{Keys::type(), "Animation Viewer"},
+                                     {"Path", path},
+                                     {"X", 30},
+                                     {"Y", 20},
+                                     {"W", size.width()},
+                                     {"H", size.height()}}));
+    AnimationBoard board;
+    board.screen.show();
+    board.content->setValue("Path", path);
+    if (hasEnded)
+        QTRY_COMPARE(board.movie()->state(), QMovie::NotRunning);
+    board.frame->resize(size);
+    if (!hasEnded)
+        QTRY_COMPARE(board.movie()->currentPixmap().size(), size);
+    QCOMPARE(board.picture(), fresh.picture());
+    QTRY_COMPARE(board.movie()->state(), QMovie::NotRunning);
+    board.frame->resize(70, 30);
+    QCOMPARE(board.picture(), MediaFolder::chequered({70, 30}));
+}
+
+void tst_AnimationViewer::readsAPictureAnewOnlyInAnotherSize()
+{
+    AnimationBoard board;
+    board.screen.show();
+    board.content->setValue("Path", m_folder.picture({70, 30}));
+    QTRY_COMPARE(board.movie()->state(), QMovie::NotRunning);
+    QSignalSpy starts(board.movie(), &QMovie::started);
+    QSignalSpy ends(board.movie(), &QMovie::finished);
+    board.frame->move(50, 40);
+    QCOMPARE(starts.size(), 0);
     board.frame->resize(140, 60);
-    QCOMPARE(board.picture(), MediaFolder::chequered({70, 30}).scaled(140, 60));
+    QCOMPARE(starts.size(), 1);
+    QTRY_COMPARE(board.movie()->state(), QMovie::NotRunning);
+    QCoreApplication::processEvents();
+    QCOMPARE(starts.size(), 1);
+    QCOMPARE(ends.size(), 1);
+}
+
+void tst_AnimationViewer::showsAPictureThatWasResizedWhileItWasHidden()
+{
+    AnimationBoard board;
+    board.screen.show();
+    board.content->setValue("Path", m_folder.picture({70, 30}));
+    QTRY_COMPARE(board.movie()->state(), QMovie::NotRunning);
+    board.screen.hide();
+    board.frame->resize(140, 60);
+    board.screen.show();
+    QCOMPARE(board.movie()->currentPixmap().size(), QSize(140, 60));
+    QTRY_COMPARE(board.movie()->state(), QMovie::NotRunning);
 }
 
 void tst_AnimationViewer::showsASingleFrame()
@@ -253,7 +324,7 @@ void tst_AnimationViewer::playsOnThoughTheFileSaysOnce()
         board.content->setValue("Path", m_folder.movie({{8, 8}, {Qt::red, Qt::green}, 2, plays}));
         QSignalSpy ends(board.movie(), &QMovie::finished);
         QTRY_COMPARE(ends.size(), 2);
-        QCOMPARE(board.movie()->state(), QMovie::Running);
+        QTRY_COMPARE(board.movie()->state(), QMovie::Running);
     }
 }
 
@@ -263,7 +334,7 @@ void tst_AnimationViewer::playsOnThoughSomethingFollowsTheMovie()
     board.content->setValue("Path", m_folder.file("tail.gif", colours().bytes() + QByteArray(100000, 'x')));
     QSignalSpy frames(board.movie(), &QMovie::frameChanged);
     QTRY_VERIFY(frames.size() > 7);
-    QCOMPARE(board.movie()->state(), QMovie::Running);
+    QTRY_COMPARE(board.movie()->state(), QMovie::Running);
 }
 
 void tst_AnimationViewer::playsOnWhenItsFileVanishes()
@@ -273,7 +344,7 @@ void tst_AnimationViewer::playsOnWhenItsFileVanishes()
     QVERIFY(QFile::remove(m_folder.path("movie.gif")));
     QSignalSpy frames(board.movie(), &QMovie::frameChanged);
     QTRY_VERIFY(frames.size() > 7);
-    QCOMPARE(board.movie()->state(), QMovie::Running);
+    QTRY_COMPARE(board.movie()->state(), QMovie::Running);
 }
 
 void tst_AnimationViewer::keepsTheBeginningOfATruncatedFile()
@@ -303,7 +374,7 @@ void tst_AnimationViewer::pausesWhileItIsHidden()
     board.content->setValue("Path", m_folder.movie(QSize(20, 10), "other.gif"));
     QCOMPARE(board.movie()->state(), QMovie::Paused);
     board.screen.show();
-    QCOMPARE(board.movie()->state(), QMovie::Running);
+    QTRY_COMPARE(board.movie()->state(), QMovie::Running);
 }
 
 void tst_AnimationViewer::isExportedWithItsCurrentFrame()
@@ -315,7 +386,7 @@ void tst_AnimationViewer::isExportedWithItsCurrentFrame()
     const QImage exported = pictureOf(board.screen).toImage();
     QCOMPARE(exported.pixelColor(board.frame->geometry().bottomRight()), QColor(Qt::green));
     QCOMPARE(board.movie()->currentFrameNumber(), 1);
-    QCOMPARE(board.movie()->state(), QMovie::Running);
+    QTRY_COMPARE(board.movie()->state(), QMovie::Running);
 }
 
 void tst_AnimationViewer::isReadWithItsFirstFrameInItsSize()
@@ -334,7 +405,7 @@ void tst_AnimationViewer::isReadWithItsFirstFrameInItsSize()
     const QMovie *movie = frame->findChild<QLabel *>()->movie();
     QCOMPARE(movie->currentPixmap().size(), QSize(300, 150));
     QCOMPARE(movie->currentFrameNumber(), 0);
-    QCOMPARE(movie->state(), QMovie::Running);
+    QTRY_COMPARE(movie->state(), QMovie::Running);
 }
 
 void tst_AnimationViewer::survivesASizeOfNothing()
@@ -386,7 +457,7 @@ void tst_AnimationViewer::keepsOneOfTenThousandFrames()
     board.content->setValue("Path", m_folder.movie({{8, 8}, QVector<QColor>(10000, Qt::red)}));
     QCOMPARE(board.movie()->cacheMode(), QMovie::CacheNone);
     QTRY_VERIFY(board.movie()->currentFrameNumber() > 3);
-    QCOMPARE(board.movie()->state(), QMovie::Running);
+    QTRY_COMPARE(board.movie()->state(), QMovie::Running);
 }
 
 void tst_AnimationViewer::boundsFramesWithoutDelay()
