@@ -57,6 +57,7 @@ private slots:
     void storesWhatItDoesNotKnow();
     void movesTheFrame_data();
     void movesTheFrame();
+    void storesThePathBeforeItTakesTheSize();
     void movesThePictureWithoutReadingItAnew();
     void leavesTheFrameAloneForMissingKeys();
     void repaintsAfterEveryChange();
@@ -208,6 +209,17 @@ void tst_MediaViewer::movesTheFrame()
     for (const QList<QVariant> &change : qAsConst(changes))
         keys << change.at(0).toString();
     QCOMPARE(keys, QStringList({"X", "W", "Y", "H"}));
+}
+
+void tst_MediaViewer::storesThePathBeforeItTakesTheSize()
+{
+    connect(m_content, &ContentViewer::valueChanged, this,
+            [this](const QString &key) { m_heard << key + ' ' + m_content->getValue("Path").toString(); });
+    const QString path = chosenFile();
+    m_content->setValue("Path", path);
+    QCOMPARE(m_heard.isEmpty(), m_type == "Video Viewer");
+    for (const QString &line : qAsConst(m_heard))
+        QVERIFY(line.endsWith(' ' + path));
 }
 
 void tst_MediaViewer::movesThePictureWithoutReadingItAnew()
