@@ -13,6 +13,17 @@ void dropRequests(QObject *object)
     QCoreApplication::removePostedEvents(object, QEvent::PolishRequest);
     QCoreApplication::removePostedEvents(object, QEvent::LayoutRequest);
 }
+
+/// Delivers the updates that shown widgets have posted to themselves. They cost nothing while the whole area
+/// is marked, but each costs a paint of its own once that has been painted.
+void deliverUpdates(QWidget *window)
+{
+    // Nothing posted later overtakes what is in the queue meanwhile, so that the request to paint is posted
+    // anew behind it: items that are deleted at once go before they are painted.
+    QCoreApplication::removePostedEvents(window, QEvent::UpdateRequest);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::UpdateLater);
+    QCoreApplication::postEvent(window, new QEvent(QEvent::UpdateRequest), Qt::LowEventPriority);
+}
 } // namespace
 
 HiddenWhileFilling::HiddenWhileFilling(QWidget &canvas, qptrdiff itemCount)
@@ -32,8 +43,7 @@ HiddenWhileFilling::~HiddenWhileFilling()
     if (!m_hides)
         return;
     m_canvas.show();
-    // The whole area is marked already, so that these cost nothing now; after the next paint each would.
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::UpdateLater);
+    deliverUpdates(m_canvas.window());
 }
 
 void HiddenWhileFilling::itemMade(QWidget &item)

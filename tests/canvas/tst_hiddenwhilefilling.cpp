@@ -1,6 +1,7 @@
 #include "canvas/hiddenwhilefilling.h"
 #include "tests/support/strictmain.h"
 
+#include <QEventLoop>
 #include <QVBoxLayout>
 
 namespace
@@ -19,6 +20,37 @@ protected:
             ++requests;
         return QWidget::event(event);
     }
+};
+
+/// Counts how often an item is painted.
+class PaintCounter : public QWidget
+{
+public:
+    PaintCounter(int &paints, QWidget *canvas) : QWidget(canvas), m_paints(paints)
+    {
+        resize(20, 20);
+        show();
+    }
+
+protected:
+    void paintEvent(QPaintEvent *event) override
+    {
+        Q_UNUSED(event)
+        ++m_paints;
+    }
+
+private:
+    int &m_paints;
+};
+
+/// A canvas in a window of its own.
+struct Board {
+    Board() { window.show(); }
+
+    bool isInView() { return QTest::qWaitForWindowExposed(&window); }
+
+    QWidget window;
+    QWidget canvas{&window};
 };
 } // namespace
 
@@ -115,6 +147,50 @@ private slots:
             filling.itemMade(item);
         }
         QCOMPARE(part->size(), QSize(100, 50));
+    }
+
+    void paintsNewItemsOnceWhenTheCanvasIsPaintedAtOnce()
+    {
+        Board board;
+        QVERIFY(board.isInView());
+        int paints = 0;
+        {
+            const HiddenWhileFilling filling(board.canvas, 2);
+            new PaintCounter(paints, &board.canvas);
+            new PaintCounter(paints, &board.canvas);
+        }
+        board.canvas.repaint();
+        QCoreApplication::processEvents();
+        QCOMPARE(paints, 2);
+    }
+
+    void deletesNewItemsBeforeTheyArePainted()
+    {
+        Board board;
+        QVERIFY(board.isInView());
+        int paints = 0;
+        QWidget *item = nullptr;
+        {
+            const HiddenWhileFilling filling(board.canvas, 2);
+            item = new PaintCounter(paints, &board.canvas);
+        }
+        item->deleteLater();
+        QEventLoop loop;
+        connect(item, &QObject::destroyed, &loop, &QEventLoop::quit);
+        loop.exec();
+        QCOMPARE(paints, 0);
+    }
+
+    void paintsNewItemsInTheEnd()
+    {
+        Board board;
+        QVERIFY(board.isInView());
+        int paints = 0;
+        {
+            const HiddenWhileFilling filling(board.canvas, 2);
+            new PaintCounter(paints, &board.canvas);
+        }
+        QTRY_COMPARE(paints, 1);
     }
 };
 
