@@ -24,6 +24,7 @@ private slots:
     void holdsForThePicturesOfAllItems();
     void holdsForTheMoviesOfAllItems();
     void readsNothingThatWouldNotFit();
+    void takesNoPictureThatIsDeeperThanWasLeft();
     void keepsNoCopiesFromTheSecondHalf();
     void stretchesNoFramesBeyondIt();
 
@@ -103,6 +104,24 @@ void tst_MemoryClaim::readsNothingThatWouldNotFit()
     QVERIFY(!animation.content->findChild<QLabel *>()->movie());
     image.content->setValue("Path", path);
     QCOMPARE(image.frame->size(), QSize(64, 32));
+}
+
+void tst_MemoryClaim::takesNoPictureThatIsDeeperThanWasLeft()
+{
+    MediaBoard<ImageViewerItem> board;
+    board.content->setValue("Path", m_folder.picture({20, 10}));
+    // Eight bytes for each pixel, which a header is not asked for.
+    const QImage deep = MediaFolder::chequered({70, 30}).convertToFormat(QImage::Format_RGBA64);
+    const QString path = m_folder.picture(deep, "deep.png");
+    MemoryClaim others;
+    QVERIFY(others.take(MemoryClaim::left() - 70 * 30 * 4));
+    QVERIFY(!MediaFile::readPicture(path).isNull());
+    board.content->setValue("Path", path);
+    QCOMPARE(board.frame->size(), QSize(20, 10));
+    QCOMPARE(board.picture(), MediaFolder::chequered({20, 10}));
+    QVERIFY(others.take(0));
+    board.content->setValue("Path", path);
+    QCOMPARE(board.frame->size(), QSize(70, 30));
 }
 
 void tst_MemoryClaim::keepsNoCopiesFromTheSecondHalf()
