@@ -4,8 +4,7 @@ include("${CMAKE_CURRENT_LIST_DIR}/checkcommon.cmake")
 # The version that Debian's stable release calls plainly by its name comes first: others format differently.
 find_program(BOARDWRIGHT_CLANG_FORMAT NAMES clang-format-14 clang-format)
 find_program(BOARDWRIGHT_CLANG_TIDY NAMES clang-tidy-14 clang-tidy)
-find_program(BOARDWRIGHT_CLAZY NAMES clazy-standalone)
-mark_as_advanced(BOARDWRIGHT_CLANG_FORMAT BOARDWRIGHT_CLANG_TIDY BOARDWRIGHT_CLAZY)
+mark_as_advanced(BOARDWRIGHT_CLANG_FORMAT BOARDWRIGHT_CLANG_TIDY)
 
 add_custom_target(format
     COMMAND ${CMAKE_COMMAND} -DROOT=${CMAKE_SOURCE_DIR} -DTOOL=${BOARDWRIGHT_CLANG_FORMAT} -DFIX=ON

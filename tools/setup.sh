@@ -8,7 +8,7 @@ build_packages=(
 )
 test_packages=(
     xvfb xauth x11-utils xdotool openbox
-    clang-format clang-tidy clazy lld
+    clang libclang-rt-dev clang-format clang-tidy clazy lld
 )
 
 is_installed() {
