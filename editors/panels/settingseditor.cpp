@@ -67,8 +67,19 @@ void SettingsEditor::followName(ScreenItem &item)
     connect(m_nameEdit, &QLineEdit::textChanged, &item, &ScreenItem::setMyName);
 }
 
+void SettingsEditor::putNameLast()
+{
+    // The panel's editors join the end of the window's tab order, behind those of every other bar.
+    QWidget *last = window()->previousInFocusChain();
+    while (last->focusPolicy() == Qt::NoFocus && last != m_nameEdit)
+        last = last->previousInFocusChain();
+    if (last != m_nameEdit)
+        setTabOrder(last, m_nameEdit);
+}
+
 void SettingsEditor::buildPanel(ScreenItem &item)
 {
+    putNameLast();
     m_container = new QWidget(widget());
     m_layout->addWidget(m_container);
     item.buildSettingsPanel(m_container);

@@ -27,6 +27,7 @@ private:
     void addNameRow();
     void showName(bool isShown);
     void followName(ScreenItem &item);
+    void putNameLast();
     void buildPanel(ScreenItem &item);
     void dropContainer();
     void forgetItemOf(const QWidget &container);

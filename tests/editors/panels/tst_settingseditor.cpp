@@ -43,6 +43,7 @@ private slots:
     void formerItemKeepsItsName();
     void editReachesTheItemAtOnce();
     void moveOnTheCanvasShowsInTheEditors();
+    void tabGoesFromTheNameIntoThePanel_data();
     void tabGoesFromTheNameIntoThePanel();
     void deletedItemEmptiesThePanel();
     void itemDeletedKeepsTheActiveItem();
@@ -388,11 +389,22 @@ void tst_SettingsEditor::moveOnTheCanvasShowsInTheEditors()
     QCOMPARE(desk.number("H"), 64);
 }
 
+void tst_SettingsEditor::tabGoesFromTheNameIntoThePanel_data()
+{
+    QTest::addColumn<int>("items");
+    QTest::newRow("first panel") << 1;
+    QTest::newRow("second panel") << 2;
+}
+
 void tst_SettingsEditor::tabGoesFromTheNameIntoThePanel()
 {
+    QFETCH(int, items);
     Desk desk;
     QVERIFY(desk.ready);
-    desk.addActive();
+    QSpinBox ofAnotherBar(&desk.window);
+    ofAnotherBar.show();
+    for (int i = 0; i < items; ++i)
+        desk.addActive();
     desk.ofNameRow<QLineEdit>()->setFocus();
     QTest::keyClick(desk.window.windowHandle(), Qt::Key_Tab);
     QVERIFY(desk.panel()->isAncestorOf(QApplication::focusWidget()));
