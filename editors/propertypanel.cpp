@@ -51,6 +51,8 @@ PropertyPanel::PropertyPanel(ContentViewer *content, QWidget *host) : QTreeWidge
     setRootIsDecorated(false);
     setIndentation(0);
     setFocusPolicy(Qt::NoFocus);
+    // The toolkit would select the row of whatever gets the focus, and paint over the headers with it.
+    setSelectionMode(QAbstractItemView::NoSelection);
     layout->addWidget(this);
     show();
     // clang-format off

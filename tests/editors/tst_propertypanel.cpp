@@ -408,6 +408,7 @@ void tst_PropertyPanel::letsTabWalkFromTopToBottom()
     for (QWidget *next : rest) {
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         QCOMPARE(QApplication::focusWidget(), next);
+        QVERIFY(shown.panel->selectedItems().isEmpty());
     }
 }
 
