@@ -93,6 +93,5 @@ void rest(int items, int)
     Session session(items, canvasSize, BenchBoard::Content::Mixed);
     session.open();
     settle(500);
-    // It settles twice, which makes ten seconds.
-    report("cpu", cpuOf([] {}, 5000));
+    report("cpu", cpuAtRest(10000));
 }

@@ -2,18 +2,51 @@
 
 #include <QEventLoop>
 #include <QFile>
+#include <QThread>
 #include <QTimer>
 
 #include <algorithm>
 #include <cstdio>
 #include <ctime>
+#include <memory>
 #include <unistd.h>
+
+namespace
+{
+double milliseconds(clockid_t clock)
+{
+    timespec now = {};
+    clock_gettime(clock, &now);
+    return double(now.tv_sec) * 1e3 + double(now.tv_nsec) / 1e6;
+}
+
+/// CPU time of all threads but this one.
+double cpuOfOtherThreads()
+{
+    const double ofThisThread = milliseconds(CLOCK_THREAD_CPUTIME_ID);
+    return milliseconds(CLOCK_PROCESS_CPUTIME_ID) - ofThisThread;
+}
+} // namespace
 
 double cpuMilliseconds()
 {
-    timespec now = {};
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
-    return double(now.tv_sec) * 1e3 + double(now.tv_nsec) / 1e6;
+    return milliseconds(CLOCK_PROCESS_CPUTIME_ID);
+}
+
+double cpuAtRest(int milliseconds)
+{
+    double used = 0;
+    const std::unique_ptr<QThread> watcher(QThread::create([&used, milliseconds] {
+        const double before = cpuOfOtherThreads();
+        QThread::msleep(ulong(milliseconds));
+        used = cpuOfOtherThreads() - before;
+    }));
+    QEventLoop loop;
+    QObject::connect(watcher.get(), &QThread::finished, &loop, &QEventLoop::quit);
+    watcher->start();
+    loop.exec();
+    watcher->wait();
+    return used;
 }
 
 double medianOf(QVector<double> values)

@@ -7,6 +7,10 @@
 /// CPU time that this process has used so far, in milliseconds.
 double cpuMilliseconds();
 
+/// CPU milliseconds that this process uses by itself while nothing is asked of it for so long. A thread that
+/// does not count itself watches: after seconds of rest to wake up alone takes some milliseconds.
+double cpuAtRest(int milliseconds);
+
 /// The middle value; 0 of no values.
 double medianOf(QVector<double> values);
 
