@@ -1,11 +1,11 @@
 #include "editors/categorybutton.h"
 
+#include "editors/focusmark.h"
+
 #include <QAccessibleWidget>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QStyleOptionFocusRect>
-#include <QStylePainter>
 #include <QTreeWidget>
 
 namespace
@@ -107,11 +107,7 @@ void CategoryButton::mousePressEvent(QMouseEvent *event)
 void CategoryButton::paintEvent(QPaintEvent *event)
 {
     Q_UNUSED(event)
-    if (!hasFocus())
-        return;
-    QStyleOptionFocusRect option;
-    option.initFrom(this);
-    QStylePainter(this).drawPrimitive(QStyle::PE_FrameFocusRect, option);
+    drawFocusMark(this);
 }
 
 void CategoryButton::ButtonPressed()

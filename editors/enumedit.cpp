@@ -1,15 +1,15 @@
 #include "editors/enumedit.h"
 
+#include "editors/choicebox.h"
 #include "editors/keylabel.h"
 
-#include <QComboBox>
 #include <QDebug>
 #include <QHBoxLayout>
 
 EnumEdit::EnumEdit(QWidget *parent)
     : VariableEdit("EnumEdit", parent),
       m_label(new KeyLabel(this)),
-      m_comboBox(new QComboBox(this))
+      m_comboBox(new ChoiceBox(this))
 {
     auto *row = new QHBoxLayout(this);
     row->addWidget(m_label);

@@ -1,10 +1,25 @@
 #include "editors/fontcoloredit.h"
 
+#include "editors/focusmark.h"
+
 #include <QHBoxLayout>
 #include <QToolButton>
 
+namespace
+{
+class LetterButton : public QToolButton
+{
+protected:
+    void paintEvent(QPaintEvent *event) override
+    {
+        QToolButton::paintEvent(event);
+        drawFocusMark(this);
+    }
+};
+} // namespace
+
 FontColorEdit::FontColorEdit(QWidget *parent)
-    : ColorValueEdit("FontColorEdit", new QToolButton, QStringLiteral("QToolButton{color:%1;}"), parent)
+    : ColorValueEdit("FontColorEdit", new LetterButton, QStringLiteral("QToolButton{color:%1;}"), parent)
 {
     auto *row = new QHBoxLayout(this);
     row->addWidget(button());

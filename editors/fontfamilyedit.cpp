@@ -1,14 +1,14 @@
 #include "editors/fontfamilyedit.h"
 
+#include "editors/choicebox.h"
 #include "model/fontfamilies.h"
 
-#include <QComboBox>
 #include <QDebug>
 #include <QHBoxLayout>
 
 FontFamilyEdit::FontFamilyEdit(QWidget *parent)
     : VariableEdit("FontFamilyEdit", parent),
-      m_comboBox(new QComboBox(this))
+      m_comboBox(new ChoiceBox(this))
 {
     // The longest name of all would make the box wider than a panel.
     m_comboBox->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);

@@ -5,6 +5,7 @@ add_library(boardwright_edittest STATIC
 target_link_libraries(boardwright_edittest PUBLIC boardwright_editors boardwright_testsupport)
 
 boardwright_add_test(editors/tst_categorybutton LINK boardwright_editors)
+boardwright_add_test(editors/tst_choicebox LINK boardwright_editors)
 boardwright_add_test(editors/tst_colorlisteditor LINK boardwright_editors)
 boardwright_add_test(editors/tst_propertypanel LINK boardwright_editors)
 boardwright_add_test(editors/tst_variableedit LINK boardwright_editors)

@@ -5,6 +5,7 @@
 #include "tests/support/strictmain.h"
 
 #include <QHBoxLayout>
+#include <QLineEdit>
 #include <QToolButton>
 
 namespace
@@ -31,6 +32,7 @@ private slots:
     void tellsEditUnderItsStoredKey();
     void hasStyleSheetToTheLetter();
     void paintsItsLetterInTheColor();
+    void showsThatItHasTheFocus();
 };
 
 void tst_FontColorEdit::tellsItsClass()
@@ -103,6 +105,24 @@ void tst_FontColorEdit::paintsItsLetterInTheColor()
     edit.setValue("Color", "#ab129f");
     QVERIFY(!shows(edit.grab().toImage(), QColor(0x12, 0xab, 0x9f)));
     QVERIFY(shows(edit.grab().toImage(), QColor(0xab, 0x12, 0x9f)));
+}
+
+void tst_FontColorEdit::showsThatItHasTheFocus()
+{
+    qApp->setStyleSheet("QToolButton{border:1px solid gray}");
+    QWidget window;
+    FontColorEdit edit(&window);
+    QLineEdit line(&window);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    line.setFocus();
+    const QImage without = edit.grab().toImage();
+    QTest::keyClick(&line, Qt::Key_Tab);
+    QVERIFY(edit.findChild<QToolButton *>()->hasFocus());
+    QVERIFY(edit.grab().toImage() != without);
+    line.setFocus();
+    QCOMPARE(edit.grab().toImage(), without);
+    qApp->setStyleSheet(QString());
 }
 
 BOARDWRIGHT_TEST_MAIN(tst_FontColorEdit)

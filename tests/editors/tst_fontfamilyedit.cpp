@@ -10,8 +10,7 @@
 
 namespace
 {
-const char longestName[] =
-    "Zebra Extra Compressed Display With A Name That No Panel Has Room For Without Being Cut";
+const char longestName[] = "Zebra Extra Compressed Display With A Name That No Panel Has Room For";
 } // namespace
 
 class tst_FontFamilyEdit : public ChoiceTest
