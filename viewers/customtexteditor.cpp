@@ -92,7 +92,7 @@ void CustomTextEditor::contextMenuEvent(QContextMenuEvent *event)
     QMenu *menu = createStandardContextMenu(event->pos());
     menu->setAttribute(Qt::WA_DeleteOnClose);
     // The see-through sheet of the area around the canvas reaches down to here.
-    menu->setStyleSheet(qApp->styleSheet());
+    menu->setStyleSheet(qApp->styleSheet() + QStringLiteral("QMenu::item:disabled{color:#909090;}"));
     // Not run: the item may go while its menu is open.
     menu->popup(event->globalPos());
 }
