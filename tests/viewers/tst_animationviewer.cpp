@@ -39,6 +39,7 @@ private slots:
     void paintsNothingWithoutAMovie();
     void takesTheSizeOfTheMovie_data();
     void takesTheSizeOfTheMovie();
+    void squeezesEachOfTwoLargeMovies();
     void playsAsSoonAsItsFileIsSet();
     void scalesTheMovieThoughNoResizeFollows();
     void scalesTheRunningMovieOnResize();
@@ -115,6 +116,16 @@ void tst_AnimationViewer::takesTheSizeOfTheMovie()
     QCOMPARE(board.content->getValue("H"), QVariant(item.height()));
     QCOMPARE(board.movie()->scaledSize(), item);
     QCOMPARE(board.movie()->currentPixmap().size(), item);
+}
+
+void tst_AnimationViewer::squeezesEachOfTwoLargeMovies()
+{
+    AnimationBoard board;
+    board.moveToCorner();
+    for (const QSize size : {QSize(2000, 500), QSize(900, 450)}) {
+        board.content->setValue("Path", m_folder.movie(size));
+        QCOMPARE(board.movie()->currentPixmap().size(), QSize(800, 400));
+    }
 }
 
 void tst_AnimationViewer::playsAsSoonAsItsFileIsSet()
