@@ -278,6 +278,8 @@ void RowList::addDrag()
     growth(6, QStringLiteral("drag of 1000, growth 100 to 1000 moved"),
            inProcess("bench-product", words(1000, 1000)), inProcess("bench-product", words(1000, 100)), 10,
            0.1);
+    growth(6, QStringLiteral("the same, of the bare widgets"), inProcess("bench-floor", words(1000, 1000)),
+           inProcess("bench-floor", words(1000, 100)), 10, 0);
 }
 
 void RowList::addPanel()
