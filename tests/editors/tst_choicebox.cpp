@@ -54,7 +54,7 @@ void tst_ChoiceBox::listShowsWhichChoiceIsTheCurrentOne()
         shown.box->setCurrentIndex(row);
         shown.box->showPopup();
         QTRY_VERIFY(shown.box->view()->viewport()->rect().contains(shown.placeOf(row)));
-        QCOMPARE(shown.groundOf(0), QColor("#454545"));
+        QCOMPARE(shown.groundOf(0), QColor(0x45, 0x45, 0x45));
         QVERIFY(shown.groundOf(row) != shown.groundOf(0));
         shown.box->hidePopup();
     }

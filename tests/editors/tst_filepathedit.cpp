@@ -183,7 +183,7 @@ void tst_FilePathEdit::dialogLooksLikeTheApplication()
     });
     clickButton();
     qApp->setStyleSheet(QString());
-    QCOMPARE(color, QColor("#123456"));
+    QCOMPARE(color, QColor(0x12, 0x34, 0x56));
 }
 
 void tst_FilePathEdit::startsDialogWhereStaticFunctionDoes()
