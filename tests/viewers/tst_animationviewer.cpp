@@ -202,6 +202,8 @@ void tst_AnimationViewer::leavesEverythingAsItWasForWhatIsNoMovie_data()
     QTest::newRow("a folder") << m_folder.path("");
     QTest::newRow("text") << m_folder.file("text.gif", "no movie at all");
     QTest::newRow("empty file") << m_folder.file("empty.gif", "");
+    QTest::newRow("a picture without pixels")
+        << m_folder.file("cut.png", readFile(m_folder.picture({70, 30})).left(50));
     QTest::newRow("a header alone") << m_folder.file("header.gif", colours().bytes().left(13));
 }
 
@@ -438,13 +440,18 @@ void tst_AnimationViewer::stretchesNoFrameBeyondMeasure()
     board.content->setValue("Path", m_folder.movie(colours()));
     board.screen.setWidgth(1000000);
     board.screen.setHeight(1000000);
+    QImage part(50, 50, QImage::Format_RGB32);
+    for (const QSize size : {QSize(4096, 4096), QSize(4096, 4097)}) {
+        board.frame->resize(size);
+        board.content->render(&part, QPoint(), QRect(0, 0, 50, 50));
+        QCOMPARE(board.movie()->scaledSize(), size.height() == 4096 ? size : QSize());
+    }
     board.content->setValue("W", 900000);
     board.content->setValue("H", 900000);
     QCOMPARE(board.content->size(), QSize(900000, 900000));
     QSignalSpy frames(board.movie(), &QMovie::frameChanged);
     QTRY_VERIFY(frames.size() > 3);
     QCOMPARE(board.movie()->currentPixmap().size(), QSize(64, 32));
-    QImage part(50, 50, QImage::Format_RGB32);
     part.fill(Qt::black);
     board.content->render(&part, QPoint(), QRect(0, 0, 50, 50));
     QVERIFY(part.pixelColor(25, 25) != QColor(Qt::black));
