@@ -61,7 +61,6 @@ void AnimationViewer::startAnew()
     // The movie's own way back looks for the beginning where it has stopped reading.
     m_movie->device()->seek(0);
     m_movie->start();
-    pauseOrResume();
 }
 
 void AnimationViewer::startAnewIfResized()
