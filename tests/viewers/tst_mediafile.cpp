@@ -5,6 +5,7 @@
 
 #include <QBuffer>
 #include <QDir>
+#include <QImageReader>
 
 #include <algorithm>
 
@@ -22,6 +23,7 @@ private slots:
     void readsPicturesOfEveryFormat();
     void readsPicturesByWhatIsInThem_data();
     void readsPicturesByWhatIsInThem();
+    void turnsNoPicture();
     void readsPathsRelativeToTheWorkingDirectory();
     void followsLinks();
     void readsNothingElse_data();
@@ -164,6 +166,23 @@ void tst_MediaFile::readsPicturesByWhatIsInThem()
     QVERIFY(MediaFile::readMovie(path));
 }
 
+// Cameras note how they were held; the picture is shown as it lies in the file.
+void tst_MediaFile::turnsNoPicture()
+{
+    const QByteArray note = QByteArray::fromHex("457869660000" // the kind of note
+                                                "4d4d002a00000008"
+                                                "0001011200030000000100060000"
+                                                "00000000");
+    const QByteArray plain = encoded(MediaFolder::chequered({70, 30}), "jpeg");
+    const QString path =
+        m_folder.file("held.jpg", plain.left(2) + jpegSegment(char(0xe1), note) + plain.mid(2));
+    QCOMPARE(QImageReader(path).transformation(), QImageIOHandler::TransformationRotate90);
+    QCOMPARE(MediaFile::readPicture(path), QImage::fromData(plain));
+    const auto movie = MediaFile::readMovie(path);
+    movie->start();
+    QCOMPARE(movie->currentImage().size(), QSize(70, 30));
+}
+
 void tst_MediaFile::readsPathsRelativeToTheWorkingDirectory()
 {
     QVERIFY(!m_folder.picture({70, 30}, "relative.png").isEmpty());
@@ -293,13 +312,15 @@ void tst_MediaFile::readsNoDrawing()
 {
     // One that names a file which never answers would be enough to hang.
     const QByteArray drawing = "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>";
-    for (const char *name : {"drawing.svg", "drawing.png"}) {
+    for (const char *name : {"drawing.svg", "drawing.svgz", "drawing.png"}) {
         QVERIFY(MediaFile::readPicture(m_folder.file(name, drawing)).isNull());
         QVERIFY(!MediaFile::readMovie(m_folder.path(name)));
     }
-    const QString icon = m_folder.file("icon.ico", encoded(MediaFolder::chequered({16, 16}), "ico"));
-    QVERIFY(MediaFile::readPicture(icon).isNull());
-    QVERIFY(!MediaFile::readMovie(icon));
+    const QByteArray icon = encoded(MediaFolder::chequered({16, 16}), "ico");
+    for (const char *name : {"icon.ico", "icon.cur"}) {
+        QVERIFY(MediaFile::readPicture(m_folder.file(name, icon)).isNull());
+        QVERIFY(!MediaFile::readMovie(m_folder.path(name)));
+    }
 }
 
 void tst_MediaFile::survivesTruncation_data()

@@ -24,6 +24,7 @@ private slots:
     void holdsForThePicturesOfAllItems();
     void holdsForTheMoviesOfAllItems();
     void readsNothingThatWouldNotFit();
+    void readsNoFileLargerThanWhatIsLeft();
     void takesNoPictureThatIsDeeperThanWasLeft();
     void keepsNoCopiesFromTheSecondHalf();
     void stretchesNoFramesBeyondIt();
@@ -104,6 +105,19 @@ void tst_MemoryClaim::readsNothingThatWouldNotFit()
     QVERIFY(!animation.content->findChild<QLabel *>()->movie());
     image.content->setValue("Path", path);
     QCOMPARE(image.frame->size(), QSize(64, 32));
+}
+
+void tst_MemoryClaim::readsNoFileLargerThanWhatIsLeft()
+{
+    // The rest of the file is a hole.
+    const QString path = m_folder.picture({7, 3});
+    QVERIFY(QFile::resize(path, 100000));
+    MemoryClaim others;
+    QVERIFY(others.take(MemoryClaim::left() - 100000));
+    QCOMPARE(MediaFile::readPicture(path).size(), QSize(7, 3));
+    QVERIFY(others.take(MemoryClaim::maximum - 99999));
+    QVERIFY(MediaFile::readPicture(path).isNull());
+    QVERIFY(!MediaFile::readMovie(path));
 }
 
 void tst_MemoryClaim::takesNoPictureThatIsDeeperThanWasLeft()
