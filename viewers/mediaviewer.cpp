@@ -81,6 +81,7 @@ void MediaViewer::buildSettingsPanel(QWidget *host)
     panel->bind(path, pathKey());
     panel->addAreaCategory();
     panel->addCategory(tr("Basic Properties"))->addWidget(path, 0, 0, 1, 2);
+    PropertyPanel::alignLabels({path});
     panel->orderFocus();
 }
 

@@ -54,6 +54,7 @@ private slots:
     void chosenPathIsShown();
     void cancellingClearsThePath();
     void tabWalksFromTopToBottom();
+    void labelKeepsItsDistanceFromTheField();
     void isNotClippedInTheColumn();
 
 private:
@@ -214,6 +215,13 @@ void tst_MediaPanel::tabWalksFromTopToBottom()
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         QCOMPARE(QApplication::focusWidget(), stops.at(i));
     }
+}
+
+void tst_MediaPanel::labelKeepsItsDistanceFromTheField()
+{
+    const auto *label = editor("Path")->findChild<QLabel *>();
+    QVERIFY(label);
+    QVERIFY(path()->x() - label->x() > label->sizeHint().width());
 }
 
 void tst_MediaPanel::isNotClippedInTheColumn()
