@@ -16,7 +16,7 @@ elseif(MSVC)
 endif()
 
 # While it compiles a file anyway, clang judges it by clazy's level 1 at a tenth of what a run of its own would cost.
-if(BOARDWRIGHT_CLAZY)
+if(BOARDWRIGHT_WITH_CLAZY)
     if(NOT CMAKE_CXX_COMPILER_ID MATCHES "Clang")
         message(FATAL_ERROR "clazy needs clang: configure with -DCMAKE_CXX_COMPILER=clang++")
     endif()
