@@ -305,6 +305,12 @@ void ScreenItem::focusOutEvent(QFocusEvent *event)
     m_border->update();
 }
 
+bool ScreenItem::event(QEvent *event)
+{
+    // A frame paints nothing that a style sheet could dress, and its parts are dressed on their own.
+    return event->type() == QEvent::Polish || QWidget::event(event);
+}
+
 void ScreenItem::mousePressEvent(QMouseEvent *event)
 {
     if (m_renderMode || !canvas()) {

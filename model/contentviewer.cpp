@@ -166,9 +166,9 @@ void ContentViewer::mouseDoubleClickEvent(QMouseEvent *event)
 
 bool ContentViewer::event(QEvent *event)
 {
-    // Shown by its frame while only this base stands, a content would be dressed by the style sheet twice.
-    const bool isUnfinished = metaObject() == &ContentViewer::staticMetaObject;
-    return event->type() == QEvent::Polish && isUnfinished ? true : QWidget::event(event);
+    // A content's colours are its values, and its parts are dressed on their own: what a style sheet says of the
+    // content itself shows nowhere, and looking it up would cost as much as making a shape.
+    return event->type() == QEvent::Polish || QWidget::event(event);
 }
 
 void ContentViewer::beginReading() {}

@@ -6,6 +6,7 @@
 #include "tests/support/strictmain.h"
 
 #include <QJsonObject>
+#include <QLabel>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPointer>
@@ -140,6 +141,7 @@ private slots:
 
     void takesEverythingAlongWhenDeleted();
     void isDeletedWhenClosed();
+    void leavesTheStyleSheetToItsParts();
 
 private:
     RecordingContent *content() const { return static_cast<RecordingContent *>(m_frame->content()); }
@@ -600,6 +602,21 @@ void tst_ScreenItem::isDeletedWhenClosed()
     m_frame->close();
     QTRY_VERIFY(frame.isNull());
     QVERIFY(m_screen->items().isEmpty());
+}
+
+void tst_ScreenItem::leavesTheStyleSheetToItsParts()
+{
+    const auto letters = [](const QWidget &widget) {
+        return widget.palette().color(QPalette::WindowText);
+    };
+    m_screen->setStyleSheet("QWidget { color: #ff0000 }");
+    m_screen->newItem("Shape");
+    const ScreenItem *frame = m_screen->items().constLast();
+    QLabel part(frame->content());
+    part.show();
+    QCOMPARE(letters(part), QColor(Qt::red));
+    QVERIFY(letters(*frame) != QColor(Qt::red));
+    QVERIFY(letters(*frame->content()) != QColor(Qt::red));
 }
 
 BOARDWRIGHT_TEST_MAIN(tst_ScreenItem)
