@@ -166,8 +166,8 @@ void ContentViewer::mouseDoubleClickEvent(QMouseEvent *event)
 
 bool ContentViewer::event(QEvent *event)
 {
-    // A content's colours are its values, and its parts are dressed on their own: what a style sheet says of the
-    // content itself shows nowhere, and looking it up would cost as much as making a shape.
+    // A content's colours are its values, and its parts are dressed on their own: what a style sheet says of
+    // the content itself shows nowhere, and looking it up would cost as much as making a shape.
     return event->type() == QEvent::Polish || QWidget::event(event);
 }
 
