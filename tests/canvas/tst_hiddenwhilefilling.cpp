@@ -49,6 +49,13 @@ struct Board {
 
     bool isInView() { return QTest::qWaitForWindowExposed(&window); }
 
+    /// Makes an item that counts its paints while the canvas is hidden; the canvas owns it.
+    QWidget *fill(int &paints)
+    {
+        const HiddenWhileFilling filling(canvas, 2);
+        return new PaintCounter(paints, &canvas);
+    }
+
     QWidget window;
     QWidget canvas{&window};
 };
@@ -169,11 +176,7 @@ private slots:
         Board board;
         QVERIFY(board.isInView());
         int paints = 0;
-        QWidget *item = nullptr;
-        {
-            const HiddenWhileFilling filling(board.canvas, 2);
-            item = new PaintCounter(paints, &board.canvas);
-        }
+        QWidget *item = board.fill(paints);
         item->deleteLater();
         QEventLoop loop;
         connect(item, &QObject::destroyed, &loop, &QEventLoop::quit);
@@ -186,10 +189,7 @@ private slots:
         Board board;
         QVERIFY(board.isInView());
         int paints = 0;
-        {
-            const HiddenWhileFilling filling(board.canvas, 2);
-            new PaintCounter(paints, &board.canvas);
-        }
+        board.fill(paints);
         QTRY_COMPARE(paints, 1);
     }
 };

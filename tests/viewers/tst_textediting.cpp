@@ -33,6 +33,14 @@ struct TwoTexts {
     QString stored() const { return first->getValues().value("Text").toString(); }
     QString shown() const { return editor()->toPlainText(); }
 
+    /// Edits the first text, and scrolls it by typing.
+    void typeManyLines()
+    {
+        board.startEditing(first);
+        for (int i = 0; i < 30; ++i)
+            board.type(Qt::Key_Return);
+    }
+
     TextBoard board;
     ScreenItem *first = board.addText({100, 100, 200, 100}, "first");
     ScreenItem *second = board.addText({400, 100, 200, 100}, "second");
@@ -434,9 +442,7 @@ void tst_TextEditing::leavingShowsTheBeginningAgain()
 {
     TwoTexts texts;
     QVERIFY(texts.isReady);
-    texts.board.startEditing(texts.first);
-    for (int i = 0; i < 30; ++i)
-        texts.board.type(Qt::Key_Return);
+    texts.typeManyLines();
     QVERIFY(texts.editor()->cursorRect().top() > 0);
     QVERIFY(texts.editor()->cursorRect().bottom() <= 100);
     leave(texts, Canvas);
@@ -619,9 +625,7 @@ void tst_TextEditing::valuesSetWhileEditingKeepTheView()
 {
     TwoTexts texts;
     QVERIFY(texts.isReady);
-    texts.board.startEditing(texts.first);
-    for (int i = 0; i < 30; ++i)
-        texts.board.type(Qt::Key_Return);
+    texts.typeManyLines();
     for (const char *key : {"Bold", "Vertical_Bottom", "Align_int"}) {
         texts.first->setValue(key, 12);
         QVERIFY(texts.editor()->verticalScrollBar()->value() > 0);
