@@ -440,12 +440,13 @@ void TextOutput::endEditing()
         parentWidget()->setFocus(Qt::OtherFocusReason);
     lodgeEditor(this);
     m_editor->resize(size());
-    m_editor->moveCursor(QTextCursor::End);
     m_editor->setReadOnly(true);
     m_editor->setFocusPolicy(Qt::NoFocus);
     m_editor->document()->setUndoRedoEnabled(false);
     // What was typed may need another margin above it.
     format(TextKeys::aligment());
+    m_editor->moveCursor(QTextCursor::End);
+    m_editor->showBeginning();
 }
 
 void TextOutput::lodgeEditor(QWidget *parent)

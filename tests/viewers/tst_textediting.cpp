@@ -375,6 +375,7 @@ void tst_TextEditing::leavingStoresTheText()
     QCOMPARE(texts.editor()->geometry(), QRect(0, 0, 200, 100));
     QVERIFY(texts.editor()->isVisible());
     QVERIFY(!texts.editor()->hasFocus());
+    QVERIFY(texts.editor()->textCursor().atEnd());
     QVERIFY(!texts.editor()->textCursor().hasSelection());
 }
 
