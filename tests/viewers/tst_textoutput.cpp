@@ -112,6 +112,10 @@ private slots:
     void answersTheLiveAlignment_data();
     void answersTheLiveAlignment();
     void repaintsAtEveryReading();
+    void repaintsWithEveryValue_data();
+    void repaintsWithEveryValue();
+    void tellsBeforeItShows_data();
+    void tellsBeforeItShows();
 
     void announcesANewCode_data();
     void announcesANewCode();
@@ -308,6 +312,65 @@ void tst_TextOutput::repaintsAtEveryReading()
         one.text->getValue(key);
         QTRY_VERIFY(paints.count > 0);
     }
+}
+
+void tst_TextOutput::repaintsWithEveryValue_data()
+{
+    QTest::addColumn<QVariant>("value");
+
+    QTest::newRow("Align_int") << QVariant(13);
+    QTest::newRow("Vertical_Top") << QVariant(true);
+    QTest::newRow("Vertical_Center") << QVariant(false);
+    QTest::newRow("Text") << QVariant("12:34");
+    QTest::newRow("Auto Size") << QVariant(false);
+}
+
+void tst_TextOutput::repaintsWithEveryValue()
+{
+    QFETCH(QVariant, value);
+    // Nobody listens: a listener that reads values would repaint as well.
+    TextBoard board;
+    ScreenItem *frame = board.addText({30, 40, 200, 100});
+    // What changes inside the editor would paint the text beneath it.
+    editorIn(frame)->move(1000, 1000);
+    QCoreApplication::processEvents();
+    const EventCounter paints(textIn(frame), QEvent::Paint);
+    textIn(frame)->setValue(QTest::currentDataTag(), value);
+    QTRY_VERIFY(paints.count > 0);
+}
+
+void tst_TextOutput::tellsBeforeItShows_data()
+{
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<QVariant>("stored");
+
+    QTest::newRow("Text") << QVariant("12:34") << QVariant("12:34");
+    // The code is stored behind the rest, after its buttons have been told.
+    QTest::newRow("Align_int") << QVariant(13) << QVariant(11);
+    QTest::newRow("Vertical_Bottom") << QVariant(true) << QVariant();
+}
+
+void tst_TextOutput::tellsBeforeItShows()
+{
+    OneText one;
+    const auto shown = [&one] {
+        return described(*editorIn(one.frame)->document());
+    };
+    const QStringList before = shown();
+    QVariantList stored;
+    QList<QStringList> shows;
+    connect(one.text, &TextOutput::valueChanged, this, [&] {
+        stored << one.text->getValues().value(QTest::currentDataTag());
+        shows << shown();
+    });
+    QFETCH(QVariant, value);
+    one.text->setValue(QTest::currentDataTag(), value);
+    QVERIFY(!stored.isEmpty());
+    for (int i = 0; i < stored.size(); ++i) {
+        QTEST(stored.at(i), "stored");
+        QCOMPARE(shows.at(i), before);
+    }
+    QVERIFY(shown() != before);
 }
 
 void tst_TextOutput::announcesANewCode_data()
