@@ -126,11 +126,21 @@ bool UpdateMagaer::check()
     // Any other text counts, an older version too: the server may take a version back.
     const bool isOther = version.toString() != QLatin1String(BOARDWRIGHT_VERSION);
     if (isOther) {
-        connect(&m_manager, &QNetworkAccessManager::finished, this, &UpdateMagaer::downloadFinished,
-                Qt::UniqueConnection);
+        watchDownloads();
         m_url = object.value(QLatin1String("url")).toString();
     }
     return isOther;
+}
+
+/// Once, however often it is called.
+void UpdateMagaer::watchDownloads()
+{
+    m_manager.disconnect(this);
+    connect(&m_manager, &QNetworkAccessManager::finished, this, [this](QNetworkReply *reply) {
+        // The manager tells of the descriptor of a later check too.
+        if (m_downloads.contains(reply))
+            downloadFinished(reply);
+    });
 }
 
 /// Empty on any failure. The loop is one of the application's, so that quitting ends it; polling the answer
@@ -172,9 +182,6 @@ void UpdateMagaer::download()
 
 void UpdateMagaer::downloadFinished(QNetworkReply *reply)
 {
-    // The manager tells of the descriptor of a later check too.
-    if (!m_downloads.contains(reply))
-        return;
     if (reply->error() != QNetworkReply::NoError)
         showDownloadFailed(reply->url(), reply->errorString());
     else if (isHttpRedirect(reply))

@@ -41,6 +41,7 @@ private slots:
 
 private:
     QByteArray fetchDescriptor();
+    void watchDownloads();
     void save(QNetworkReply *reply);
 
     QNetworkAccessManager m_manager;

@@ -18,6 +18,7 @@ private slots:
     void anAddressThatIsNoTextIsEmpty();
     void sslErrorsShowsOneBoxPerErrorInOrder();
     void sixStatusCodesAreRedirects();
+    void downloadFinishedTellsOfAnyReply();
     void saveFileNameDeletesTheOlderFile();
     void saveFileNameLeavesAFolderAlone();
     void saveToDiskWritesEverything();
@@ -171,6 +172,21 @@ void tst_UpdateMagaer::sixStatusCodesAreRedirects()
             redirects << status;
     }
     QCOMPARE(redirects, QList<int>({301, 302, 303, 305, 307, 308}));
+}
+
+// One too that no download of this object has begun.
+void tst_UpdateMagaer::downloadFinishedTellsOfAnyReply()
+{
+    UpdateMagaer updates;
+    const QPointer<QNetworkReply> answer(new StatusReply(302));
+    QNetworkReply *base = answer;
+    const QArgument<QNetworkReply *> reply("QNetworkReply*", base);
+    DialogAnswers answers;
+    answers.press("OK");
+    QVERIFY(QMetaObject::invokeMethod(&updates, "downloadFinished", reply));
+    QVERIFY(answers.areUsedUp());
+    QCOMPARE(answers.seen().constFirst().title, QString("Server error!"));
+    QTRY_VERIFY(!answer);
 }
 
 void tst_UpdateMagaer::saveFileNameDeletesTheOlderFile()
