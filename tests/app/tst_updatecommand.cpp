@@ -13,6 +13,7 @@ private slots:
     void showsNothingWhenThisVersionIsPublished();
     void downloadsAnotherVersion();
     void checksAnewAtEachUse();
+    void keepsTheManagerOfEachUse();
     void asksTwiceAtATime_data();
     void asksTwiceAtATime();
     void runsItsFileWhileAnotherCheckHangs();
@@ -113,6 +114,26 @@ void tst_UpdateCommand::checksAnewAtEachUse()
     triggerUpdates();
     QTRY_VERIFY(answers.areUsedUp());
     QCOMPARE(answers.seen().constFirst().title, QString("Download of failed"));
+}
+
+// A manager keeps an idle connection until its own end, and would ask again through it.
+void tst_UpdateCommand::keepsTheManagerOfEachUse()
+{
+    Endpoint endpoint(path(""));
+    QVector<QPointer<QTcpSocket>> connections;
+    endpoint.on(descriptorPath(), [&connections](QTcpSocket *socket) {
+        connections.append(socket);
+        socket->write("HTTP/1.1 200 OK\r\nContent-Length: 18\r\n\r\n{\"version\": \"0.9\"}");
+    });
+    for (int use = 0; use < 3; ++use) {
+        triggerUpdates();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    QCoreApplication::processEvents();
+    QCOMPARE(connections.size(), 3);
+    QVERIFY(connections.at(0) != connections.at(1) && connections.at(1) != connections.at(2));
+    for (const QPointer<QTcpSocket> &connection : qAsConst(connections))
+        QVERIFY(connection && connection->state() == QTcpSocket::ConnectedState);
 }
 
 void tst_UpdateCommand::asksTwiceAtATime_data()
