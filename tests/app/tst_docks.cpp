@@ -40,6 +40,8 @@ private slots:
     void layerToolBarActsOnTheItemJustAdded();
     void deletingByTheToolBarEmptiesThePanel();
     void buttonsWithoutWordsHaveNames();
+    void limitsOnlyTheWidthOfTheSettingsDock();
+    void offersFourKindsInOrder();
     void startsWithTheValuesOfTheCanvas();
     void clickOnAShapeShowsItsNameAndPanel();
     void clickOnTheBackgroundEmptiesThePanel();
@@ -307,6 +309,27 @@ void tst_Docks::buttonsWithoutWordsHaveNames()
     QCOMPARE(items.size(), 15);
     for (const ToolBarItem *item : items)
         QCOMPARE(item->accessibleName(), item->toolTip());
+}
+
+void tst_Docks::limitsOnlyTheWidthOfTheSettingsDock()
+{
+    // Once shown, each dock takes over the limits of what it holds.
+    const MainWindow fresh(nullptr);
+    const auto least = [](const QWidget *panel) {
+        return panel->parentWidget()->minimumSize();
+    };
+    QCOMPARE(least(fresh.findChild<SettingsEditor *>()), QSize(250, 0));
+    QCOMPARE(least(fresh.findChild<ScreenSettings *>()), QSize(0, 0));
+    QCOMPARE(least(fresh.findChild<ItemTypesDragBar *>()), QSize(0, 0));
+}
+
+void tst_Docks::offersFourKindsInOrder()
+{
+    QStringList kinds;
+    const QLayout *row = itemBar()->layout();
+    for (int place = 0; place + 1 < row->count(); ++place)
+        kinds.append(row->itemAt(place)->widget()->accessibleName());
+    QCOMPARE(kinds, QStringList({"Text", "Shape", "Image Viewer", "Animation Viewer"}));
 }
 
 void tst_Docks::startsWithTheValuesOfTheCanvas()
