@@ -1,6 +1,7 @@
 #include "model/applicationfonts.h"
 
 #include "assets/fontsresource.h"
+#include "model/boardfonts.h"
 #include "model/fontfamilies.h"
 
 #include <QDebug>
@@ -39,5 +40,6 @@ void loadApplicationFonts()
     QFontDatabase().families();
     loadFontFolder(QStringLiteral(":/assets/fonts/"));
     loadFontFolder(QStringLiteral("./fonts/"));
+    BoardFonts::settle();
     qDebug() << "Font families:" << FontFamilies::list() << "bundled files missing:" << missingFontFiles();
 }

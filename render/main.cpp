@@ -1,5 +1,6 @@
 #include "model/applicationfonts.h"
 #include "model/applicationstyle.h"
+#include "model/boardfonts.h"
 #include "model/fontsubstitutions.h"
 #include "render/boardrenderer.h"
 
@@ -29,6 +30,14 @@ QString onOneLine(QString message)
     return message;
 }
 
+/// A picture has the pixels of its board, whatever the user's desktop is scaled by.
+void clearScales()
+{
+    for (const char *name : {"QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS", "QT_AUTO_SCREEN_SCALE_FACTOR",
+                             "QT_DEVICE_PIXEL_RATIO", "QT_ENABLE_HIGHDPI_SCALING", "QT_FONT_DPI"})
+        qunsetenv(name);
+}
+
 int fail(const QString &message)
 {
     std::fprintf(stderr, "boardwright-render: %s\n", qPrintable(onOneLine(message)));
@@ -39,8 +48,10 @@ int fail(const QString &message)
 int main(int argc, char *argv[])
 {
     qInstallMessageHandler(keepLogQuiet);
-    // No window is ever shown, so no display is needed.
+    // No window is ever shown, so no display is needed, and no scale of one.
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    clearScales();
+    BoardFonts::clearVariables();
     QApplication application(argc, argv);
     // As in the editor, whose picture this is to be.
     applyApplicationStyle();
