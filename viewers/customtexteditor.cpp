@@ -1,7 +1,9 @@
 #include "viewers/customtexteditor.h"
 
+#include "viewers/largeletters.h"
 #include "viewers/mediafile.h"
 #include "viewers/richtext.h"
+#include "viewers/textletters.h"
 
 #include <QApplication>
 #include <QBuffer>
@@ -65,13 +67,17 @@ bool hasDrag(const QTextEdit &editor)
 }
 } // namespace
 
-CustomTextEditor::CustomTextEditor(QWidget *parent) : QTextEdit(parent) {}
+CustomTextEditor::CustomTextEditor(QWidget *parent) : QTextEdit(parent)
+{
+    TextLetters::prepare(*document());
+}
 
 void CustomTextEditor::showHtml(const QString &html)
 {
     m_pictureBytes = 0;
     m_claim.take(0);
-    document()->setHtml(html);
+    document()->setHtml(TextLetters::withoutRelativeLengths(html));
+    TextLetters::settle(*document());
 }
 
 QVariant CustomTextEditor::loadResource(int type, const QUrl &name)
@@ -145,4 +151,19 @@ void CustomTextEditor::insertFromMimeData(const QMimeData *source)
         QTextEdit::insertFromMimeData(source);
     else
         insertPlainText(RichText::excerpt(source->hasText() ? markupOf(source->text()) : markupOf(*source)));
+    TextLetters::settle(*document());
+}
+
+void CustomTextEditor::changeEvent(QEvent *event)
+{
+    QTextEdit::changeEvent(event);
+    // The toolkit has just given the document the font of the interface.
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::ApplicationFontChange)
+        TextLetters::prepare(*document());
+}
+
+void CustomTextEditor::paintEvent(QPaintEvent *event)
+{
+    LargeLetters::straighten(*document());
+    QTextEdit::paintEvent(event);
 }

@@ -25,6 +25,8 @@ public:
     void showBeginning();
 
 protected:
+    /// The text's own letters do not follow those of the interface.
+    void changeEvent(QEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
     /// Keeps every key while the text is edited, shift alone included: the frame would move, be deleted, or
     /// tell its geometry to the whole selection.
@@ -32,6 +34,7 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
     /// With one press selected words are dragged once.
     void mouseMoveEvent(QMouseEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
     /// A text that is larger than the editor shows its beginning; the toolkit would look for its cursor.
     void showEvent(QShowEvent *event) override;
     /// Of what is too much to be shown only the beginning is inserted.

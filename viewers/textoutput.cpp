@@ -7,6 +7,7 @@
 #include "viewers/datafields.h"
 #include "viewers/richtext.h"
 #include "viewers/textkeys.h"
+#include "viewers/textletters.h"
 #include "viewers/textpanel.h"
 #include "viewers/textstyle.h"
 
@@ -475,7 +476,7 @@ void TextOutput::commitEditing()
 void TextOutput::storeShownText()
 {
     if (m_isShownWhole)
-        m_values.insert(TextKeys::text(), m_editor->toHtml());
+        m_values.insert(TextKeys::text(), TextLetters::storedHtml(*m_editor->document()));
 }
 
 bool TextOutput::eventFilter(QObject *watched, QEvent *event)

@@ -2,19 +2,10 @@
 
 #include "model/namedcolor.h"
 #include "viewers/textkeys.h"
+#include "viewers/textletters.h"
 
 #include <QBrush>
 #include <QFont>
-
-namespace
-{
-void setFont(QTextCharFormat &format, const QString &family)
-{
-    format.setFontFamily(family);
-    // The families that HTML may name would win over the one.
-    format.setFontFamilies({family});
-}
-} // namespace
 
 bool TextStyle::isStyle(const QString &key)
 {
@@ -28,11 +19,11 @@ QTextCharFormat TextStyle::charFormat(const QString &key, const QVariant &value)
     if (key == TextKeys::italic())
         format.setFontItalic(value.toBool());
     else if (key == TextKeys::font())
-        setFont(format, value.toString());
+        TextLetters::setFamily(format, value.toString());
     else if (key == TextKeys::underlined())
         format.setFontUnderline(value.toBool());
     else if (key == TextKeys::size())
-        format.setFontPointSize(value.toInt());
+        TextLetters::setSize(format, value.toInt());
     else if (key == TextKeys::bold())
         format.setFontWeight(value.toBool() ? QFont::Bold : QFont::Normal);
     else if (key == TextKeys::color())
