@@ -14,11 +14,18 @@ boardwright_add_test(app/tst_storm
     LINK boardwright_commandtest SOURCES app/stormuser.cpp app/stormuser.h TIMEOUT 400)
 boardwright_add_test(app/tst_program RUNS boardwright)
 
+# The editor as a process that exports a board with letters of all kinds.
+add_library(boardwright_exporttest STATIC
+    app/exportprocess.cpp app/exportprocess.h app/lettersboard.cpp app/lettersboard.h)
+target_link_libraries(boardwright_exporttest PUBLIC boardwright_app boardwright_texttest)
+boardwright_add_test(app/tst_samepicture LINK boardwright_exporttest RUNS boardwright-render)
+
 # The mouse and the keyboard of a real display.
 add_library(boardwright_displaytest STATIC app/x11/pointer.cpp app/x11/pointer.h)
 target_link_libraries(boardwright_displaytest PUBLIC boardwright_testsupport PRIVATE boardwright_warnings)
 
 boardwright_add_test(app/x11/tst_realevents LINK boardwright_app boardwright_displaytest ON_DISPLAY)
+boardwright_add_test(app/x11/tst_denseboard LINK boardwright_exporttest RUNS boardwright-render ON_DISPLAY)
 boardwright_add_test(app/x11/tst_realprogram LINK boardwright_displaytest RUNS boardwright ON_DISPLAY)
 boardwright_add_test(app/x11/tst_realupdate
     LINK boardwright_updatetest boardwright_displaytest RUNS boardwright ON_DISPLAY)

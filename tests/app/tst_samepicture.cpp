@@ -1,0 +1,121 @@
+#include "model/boardfonts.h"
+#include "tests/app/exportprocess.h"
+#include "tests/app/lettersboard.h"
+#include "tests/model/bundledfonts.h"
+#include "tests/support/files.h"
+#include "tests/support/strictmain.h"
+
+#include <QJsonDocument>
+#include <QProcess>
+#include <QTemporaryDir>
+
+/// One board, seen, exported and rendered on desktops of all kinds.
+class tst_SamePicture : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void isTheSameOnADesktop_data();
+    void isTheSameOnADesktop();
+    void windowShowsThePicture();
+
+private:
+    QString path(const QString &name) const { return m_folder.filePath(name); }
+    QString rules(const QString &name, const QString &edits);
+    QByteArray rendered(const QStringList &variables);
+
+    QTemporaryDir m_folder;
+    QByteArray m_rendered;
+    ExportProcess::Result m_ordinary;
+};
+
+namespace
+{
+/// A rule that wins over all others, for fonts asked for and fonts found.
+QString edit(const QString &property, const QString &value)
+{
+    QString rules;
+    for (const char *target : {"pattern", "font"})
+        rules += QString("<match target=\"%1\"><edit name=\"%2\" mode=\"assign\">%3</edit></match>")
+                     .arg(target, property, value);
+    return rules;
+}
+} // namespace
+
+QString tst_SamePicture::rules(const QString &name, const QString &edits)
+{
+    const QString file = path(name + ".conf");
+    const QString whole = "<?xml version=\"1.0\"?><!DOCTYPE fontconfig SYSTEM \"fonts.dtd\"><fontconfig>"
+                          "<include ignore_missing=\"yes\">/etc/fonts/fonts.conf</include>" +
+                          edits + "</fontconfig>";
+    return writeFile(file, whole.toUtf8()) ? "FONTCONFIG_FILE=" + file : QString();
+}
+
+QByteArray tst_SamePicture::rendered(const QStringList &variables)
+{
+    QFile::remove(path("rendered.png"));
+    QProcess process;
+    process.setEnvironment(QProcess::systemEnvironment() + variables);
+    process.start(BOARDWRIGHT_RENDER_PROGRAM, {path("board.lay"), path("rendered.png")});
+    process.waitForFinished(90000);
+    return readFile(path("rendered.png"));
+}
+
+void tst_SamePicture::initTestCase()
+{
+    REQUIRE_BUNDLED_FONTS();
+    QVERIFY(writeFile(path("board.lay"), QJsonDocument(lettersBoard()).toJson()));
+    m_rendered = rendered({});
+    m_ordinary = ExportProcess::run(path("board.lay"), {});
+    QVERIFY2(!m_ordinary.lines.isEmpty(), qPrintable(m_ordinary.log));
+    QCOMPARE(m_ordinary.first, QImage::fromData(m_rendered).convertToFormat(QImage::Format_RGB32));
+    QCOMPARE(m_ordinary.second, m_ordinary.first);
+}
+
+void tst_SamePicture::isTheSameOnADesktop_data()
+{
+    QTest::addColumn<QStringList>("variables");
+
+    QTest::newRow("of 120 dots per inch") << QStringList{"QT_FONT_DPI=120"};
+    QTest::newRow("of 144 dots per inch") << QStringList{"QT_FONT_DPI=144"};
+    for (const char *scale : {"1.25", "1.5", "2"})
+        QTest::addRow("scaled by %s", scale) << QStringList{QString("QT_SCALE_FACTOR=") + scale};
+    QTest::newRow("with a scaled screen") << QStringList{"QT_SCREEN_SCALE_FACTORS=1.5"};
+    QTest::newRow("with twice the pixels") << QStringList{"QT_DEVICE_PIXEL_RATIO=2"};
+    QTest::newRow("without memory for letters") << QStringList{"QT_MAX_CACHED_GLYPH_SIZE=1"};
+    QTest::newRow("with memory for large letters") << QStringList{"QT_MAX_CACHED_GLYPH_SIZE=4096"};
+    QTest::newRow("with hard edges") << QStringList{rules("edges", edit("antialias", "<bool>false</bool>"))};
+    QTest::newRow("with coloured edges") << QStringList{rules(
+        "colours", edit("rgba", "<const>rgb</const>") + edit("lcdfilter", "<const>lcddefault</const>"))};
+    QTest::newRow("with full hinting") << QStringList{
+        rules("full", edit("hinting", "<bool>true</bool>") + edit("hintstyle", "<const>hintfull</const>"))};
+    QTest::newRow("with hinting of its own") << QStringList{
+        rules("auto", edit("autohint", "<bool>true</bool>") + edit("hintstyle", "<const>hintfull</const>"))};
+    QTest::newRow("without hinting") << QStringList{
+        rules("none", edit("hinting", "<bool>false</bool>") + edit("hintstyle", "<const>hintnone</const>"))};
+    const QString empty = path("empty.conf");
+    QVERIFY(writeFile(empty, "<fontconfig></fontconfig>"));
+    QTest::newRow("without rules and fonts") << QStringList{"FONTCONFIG_FILE=" + empty};
+    QTest::newRow("in another language") << QStringList{"LC_ALL=C", "LANGUAGE=ar"};
+    QTest::newRow("without a home") << QStringList{"HOME=/nonexistent"};
+}
+
+void tst_SamePicture::isTheSameOnADesktop()
+{
+    QFETCH(QStringList, variables);
+    QVERIFY(rendered(variables) == m_rendered);
+    const ExportProcess::Result result = ExportProcess::run(path("board.lay"), variables);
+    QVERIFY2(!result.lines.isEmpty(), qPrintable(result.log));
+    QCOMPARE(result.first, m_ordinary.first);
+    QCOMPARE(result.second, m_ordinary.first);
+    QCOMPARE(result.lines, m_ordinary.lines);
+}
+
+void tst_SamePicture::windowShowsThePicture()
+{
+    QCOMPARE(m_ordinary.window, m_ordinary.first);
+}
+
+BOARDWRIGHT_EXPORT_TEST_MAIN(tst_SamePicture)
+#include "tst_samepicture.moc"
