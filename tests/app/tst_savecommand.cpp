@@ -1,4 +1,5 @@
 #include "tests/app/commandtest.h"
+#include "tests/support/apart.h"
 
 #include <QDir>
 
@@ -15,6 +16,7 @@ private slots:
     void savingFailsInABox_data();
     void savingFailsInABox();
     void savingToAFullDiskTellsIt();
+    void savingToAFullDiskLeavesTheOldFileWhole();
     void saveCommandAsksForAPathAtFirst();
     void saveCommandAsksAgainAfterNew();
     void saveCommandWritesBackWithoutAsking();
@@ -107,6 +109,21 @@ void tst_SaveCommand::savingToAFullDiskTellsIt()
     QCOMPARE(answers.seen().first().title, QString("Error"));
     QCOMPARE(answers.seen().first().text, QString("No space left on device"));
     QCOMPARE(window().currentPath(), before);
+}
+
+void tst_SaveCommand::savingToAFullDiskLeavesTheOldFileWhole()
+{
+    const QString file = openSmallBoard();
+    canvas().newItem("Shape");
+    DialogAnswers answers;
+    answers.press("OK");
+    {
+        const FullDisk disk(256);
+        triggerSave();
+    }
+    QVERIFY(answers.areUsedUp());
+    QCOMPARE(answers.seen().first().text, QString("File too large"));
+    QCOMPARE(readFile(file), bytesOf(smallBoard()));
 }
 
 void tst_SaveCommand::saveCommandAsksForAPathAtFirst()

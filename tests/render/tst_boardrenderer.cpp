@@ -4,6 +4,7 @@
 #include "canvas/screen.h"
 #include "canvas/screenitem.h"
 #include "canvas/screenpicture.h"
+#include "tests/support/apart.h"
 #include "tests/support/boards.h"
 #include "tests/support/files.h"
 #include "tests/support/gif.h"
@@ -55,6 +56,10 @@ private slots:
     void leavesAFileOfUnknownSuffixAlone();
     void noticesAFullDisk_data();
     void noticesAFullDisk();
+    void fullDiskLeavesTheOldPictureWhole_data();
+    void fullDiskLeavesTheOldPictureWhole();
+    void writesIntoItsOwnOutput_data();
+    void writesIntoItsOwnOutput();
     void keepsToOneLineForNamesWithLineEnds();
     void tellsNamesWithPlaceholdersAsTheyAre();
     void tellsItsUsage_data();
@@ -68,7 +73,8 @@ private:
         QByteArray errors;
     };
 
-    static Run run(const QStringList &arguments, const QStringList &environment = {});
+    static Run run(const QStringList &arguments, const QStringList &environment = {},
+                   const QString &outputFile = {});
     Run render(const QByteArray &layout, const QString &picture = "board.png");
     void verifyFailure(const Run &run, const QByteArray &part) const;
     QString path(const QString &name) const { return m_folder->filePath(name); }
@@ -117,7 +123,8 @@ void tst_BoardRenderer::init()
     QVERIFY(m_folder->isValid());
 }
 
-tst_BoardRenderer::Run tst_BoardRenderer::run(const QStringList &arguments, const QStringList &environment)
+tst_BoardRenderer::Run tst_BoardRenderer::run(const QStringList &arguments, const QStringList &environment,
+                                              const QString &outputFile)
 {
     QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
     for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "XDG_RUNTIME_DIR"})
@@ -126,6 +133,8 @@ tst_BoardRenderer::Run tst_BoardRenderer::run(const QStringList &arguments, cons
         variables.insert(variable.section('=', 0, 0), variable.section('=', 1));
     QProcess process;
     process.setProcessEnvironment(variables);
+    if (!outputFile.isEmpty())
+        process.setStandardOutputFile(outputFile);
     process.start(BOARDWRIGHT_RENDER_PROGRAM, arguments);
     const bool ended = process.waitForFinished(90000) && process.exitStatus() == QProcess::NormalExit;
     return {ended ? process.exitCode() : -1, process.readAllStandardOutput(), process.readAllStandardError()};
@@ -441,6 +450,47 @@ void tst_BoardRenderer::noticesAFullDisk()
         QSKIP("no device that is always full");
     QVERIFY(QFile::link("/dev/full", path(picture)));
     verifyFailure(render(bytesOf(colourfulBoard()), picture), "No space left on device");
+}
+
+void tst_BoardRenderer::fullDiskLeavesTheOldPictureWhole_data()
+{
+    noticesAFullDisk_data();
+}
+
+void tst_BoardRenderer::fullDiskLeavesTheOldPictureWhole()
+{
+    QFETCH(QString, picture);
+
+    writeFile(path("board.lay"), bytesOf(colourfulBoard()));
+    QVERIFY(writeFile(path(picture), "the old picture"));
+    const QStringList before = files();
+    const FullDisk disk(256);
+    verifyFailure(run({path("board.lay"), path(picture)}), "File too large");
+    QCOMPARE(readFile(path(picture)), QByteArray("the old picture"));
+    QCOMPARE(files(), before);
+}
+
+void tst_BoardRenderer::writesIntoItsOwnOutput_data()
+{
+    QTest::addColumn<bool>("isFile");
+
+    QTest::newRow("pipe") << false;
+    QTest::newRow("file") << true;
+}
+
+void tst_BoardRenderer::writesIntoItsOwnOutput()
+{
+    QFETCH(bool, isFile);
+
+    QCOMPARE(render(bytesOf(colourfulBoard()), "plain.png").code, 0);
+    QVERIFY(QFile::link("/dev/stdout", path("out.png")));
+    QFile output(path("output"));
+    QVERIFY(output.open(QIODevice::ReadWrite));
+    const Run result = run({path("board.lay"), path("out.png")}, {}, isFile ? output.fileName() : QString());
+    QCOMPARE(result.errors, QByteArray());
+    QCOMPARE(result.code, 0);
+    // Whoever has the file open already finds the picture in it.
+    QCOMPARE(isFile ? output.readAll() : result.output, readFile(path("plain.png")));
 }
 
 void tst_BoardRenderer::keepsToOneLineForNamesWithLineEnds()
