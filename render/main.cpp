@@ -41,6 +41,8 @@ int main(int argc, char *argv[])
     qInstallMessageHandler(keepLogQuiet);
     // No window is ever shown, so no display is needed.
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    // The theme of a desktop could still ask for one.
+    qunsetenv("QT_QPA_PLATFORMTHEME");
     QApplication application(argc, argv);
     // As in the editor, whose picture this is to be.
     applyApplicationStyle();

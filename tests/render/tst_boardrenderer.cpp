@@ -14,6 +14,7 @@
 #include <QDir>
 #include <QImageReader>
 #include <QJsonDocument>
+#include <QLibraryInfo>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -40,6 +41,7 @@ private slots:
     void leavesOutGridAndBorders();
     void replacesAnOlderPicture();
     void paintsOnePixelForEachOfTheScreenOnAScaledDesktop();
+    void needsNoThemeOfADesktop();
     void rendersNamesBeyondAscii();
 
     void refusesALayout_data();
@@ -109,6 +111,11 @@ QImage editorPictureOf(const QString &layout)
     window.openFile(layout);
     window.canvas()->selectAllShortcutActivated();
     return pictureOf(*window.canvas()).toImage();
+}
+
+bool hasPlatformTheme(const QString &name)
+{
+    return QFile::exists(QLibraryInfo::location(QLibraryInfo::PluginsPath) + "/platformthemes/" + name);
 }
 
 QImage comparable(const QImage &picture)
@@ -282,6 +289,16 @@ void tst_BoardRenderer::paintsOnePixelForEachOfTheScreenOnAScaledDesktop()
     QCOMPARE(run({path("board.lay"), path("plain.png")}).code, 0);
     QCOMPARE(run({path("board.lay"), path("scaled.png")}, {"QT_SCALE_FACTOR=2"}).code, 0);
     QCOMPARE(QImage(path("scaled.png")), QImage(path("plain.png")));
+}
+
+void tst_BoardRenderer::needsNoThemeOfADesktop()
+{
+    if (!hasPlatformTheme("libqgtk3.so"))
+        QSKIP("the theme that asks for a display is not installed");
+    writeFile(path("board.lay"), bytesOf(colourfulBoard()));
+    const Run result = run({path("board.lay"), path("board.png")}, {"QT_QPA_PLATFORMTHEME=gtk3"});
+    QCOMPARE(result.errors, QByteArray());
+    QCOMPARE(result.code, 0);
 }
 
 void tst_BoardRenderer::rendersNamesBeyondAscii()
