@@ -3,6 +3,8 @@
 
 #include <QDir>
 
+#include <unistd.h>
+
 // Saving and saving under another name.
 class tst_SaveCommand : public CommandTest
 {
@@ -13,6 +15,7 @@ private slots:
     void savingKeepsTheModifiedFlag();
     void savingNoPathOnlyLogs();
     void savingReplacesALongerFile();
+    void savingKeepsTheOtherNamesOfAFile();
     void savingFailsInABox_data();
     void savingFailsInABox();
     void savingToAFullDiskTellsIt();
@@ -67,6 +70,15 @@ void tst_SaveCommand::savingReplacesALongerFile()
     window().saveFile(path("long.lay"));
     QCOMPARE(readFile(path("long.lay")), bytesOf(canvas().saveLayout()));
     QCOMPARE(files(), QStringList("long.lay"));
+}
+
+void tst_SaveCommand::savingKeepsTheOtherNamesOfAFile()
+{
+    const QString file = openSmallBoard();
+    QCOMPARE(::link(qPrintable(file), qPrintable(path("other.lay"))), 0);
+    canvas().newItem("Shape");
+    triggerSave();
+    QCOMPARE(readFile(path("other.lay")), bytesOf(canvas().saveLayout()));
 }
 
 void tst_SaveCommand::savingFailsInABox_data()

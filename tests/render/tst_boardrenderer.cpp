@@ -18,9 +18,8 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-#ifdef Q_OS_UNIX
 #include <sys/stat.h>
-#endif
+#include <unistd.h>
 
 // The batch renderer, as a function and as the real program on a machine without display.
 class tst_BoardRenderer : public QObject
@@ -40,6 +39,7 @@ private slots:
     void choosesTheFormatBySuffix();
     void leavesOutGridAndBorders();
     void replacesAnOlderPicture();
+    void keepsTheOtherNamesOfAnOlderPicture();
     void paintsOnePixelForEachOfTheScreenOnAScaledDesktop();
     void needsNoThemeOfADesktop();
     void rendersNamesBeyondAscii();
@@ -283,6 +283,15 @@ void tst_BoardRenderer::replacesAnOlderPicture()
     QCOMPARE(readFile(path("other.png")), first);
 }
 
+void tst_BoardRenderer::keepsTheOtherNamesOfAnOlderPicture()
+{
+    writeFile(path("board.png"), QByteArray(100000, 'x'));
+    QCOMPARE(::link(qPrintable(path("board.png")), qPrintable(path("other.png"))), 0);
+    QCOMPARE(render(bytesOf(colourfulBoard())).code, 0);
+    QCOMPARE(QImage(path("other.png")), QImage(path("board.png")));
+    QCOMPARE(QImage(path("other.png")).size(), QSize(200, 100));
+}
+
 void tst_BoardRenderer::paintsOnePixelForEachOfTheScreenOnAScaledDesktop()
 {
     writeFile(path("board.lay"), bytesOf(colourfulBoard()));
@@ -413,13 +422,9 @@ void tst_BoardRenderer::refusesAFileThatIsNoRegularOne()
 
 void tst_BoardRenderer::refusesAPipe()
 {
-#ifdef Q_OS_UNIX
     // Nobody ever writes into it.
     QCOMPARE(mkfifo(qPrintable(path("pipe.lay")), 0600), 0);
     verifyFailure(run({path("pipe.lay"), path("board.png")}), "Cannot read");
-#else
-    QSKIP("no named pipes in folders here");
-#endif
 }
 
 void tst_BoardRenderer::refusesAPictureName_data()
