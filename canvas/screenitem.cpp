@@ -11,6 +11,7 @@
 #include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPointer>
+#include <QScopedValueRollback>
 #include <QVBoxLayout>
 
 namespace
@@ -104,6 +105,16 @@ void ScreenItem::contentEdited()
 {
     if (Screen *screen = canvas())
         screen->markModified();
+}
+
+void ScreenItem::placeAsStored(const QRect &stored)
+{
+    const Screen *screen = canvas();
+    if (!screen || !FrameGeometry::liesOnScreen(stored, screen->size()))
+        return;
+    const QScopedValueRollback<bool> placing(m_isPlacing, true);
+    resizeNow(this, stored.size());
+    moveNow(this, stored.topLeft());
 }
 
 void ScreenItem::attachToScreen(Screen *screen)
@@ -506,7 +517,7 @@ void ScreenItem::resizeEvent(QResizeEvent *event)
     if (!screen)
         return;
     const QSize clamped = FrameGeometry::clampedSize(QRect(pos(), event->size()), screen->size());
-    if (clamped != event->size())
+    if (clamped != event->size() && !m_isPlacing)
         resize(clamped);
     screen->markModified();
     m_border->resize(size());

@@ -31,6 +31,10 @@ public:
 
     void contentEdited() override;
 
+    /// A geometry on the screen is not clamped: the clamp of a resize widens frames that are taller than the
+    /// room beside them, and an item that was saved so would come back as another.
+    void placeAsStored(const QRect &stored) override;
+
     /// The content, null until there is one.
     ContentViewer *content() const { return m_content; }
 
@@ -136,6 +140,7 @@ private:
     bool m_active = false;
     bool m_contextMenuOpen = false;
     bool m_editable = true; // a switch that nothing turns off yet
+    bool m_isPlacing = false;
     HitZone m_hitZone = HitZone::None;
     QPoint m_pressAnchor; // global mouse position at the last press less the frame's position then
     QVBoxLayout *m_layout = nullptr;
