@@ -134,6 +134,7 @@ private:
     void deleteByKey();
     void nudgeSelection(int key);
     void growSelection(int key);
+    void tellSelection();
 
     bool m_selected = false;
     bool m_renderMode = false;
