@@ -224,8 +224,8 @@ void Screen::loadLayout(const QJsonObject &document)
     deleteAllItems();
     m_nameCounters.clear();
     const QJsonObject parameters = document.value(Keys::parameters()).toObject();
-    setWidgth(parameters.value(Keys::width()).toInt());
-    setHeight(parameters.value(Keys::height()).toInt());
+    setWidgth(wholeNumber(parameters.value(Keys::width())));
+    setHeight(wholeNumber(parameters.value(Keys::height())));
     setBackgrounColor(namedColor(parameters.value(Keys::backgroundColor()).toString()));
     createItems(document.value(Keys::items()).toArray());
     m_modified = false;
