@@ -217,7 +217,10 @@ void ScreenItem::deactivateSlot(ScreenItem *item)
 
 void ScreenItem::setMyName(QString myName)
 {
+    if (myName == m_name)
+        return;
     m_name = std::move(myName);
+    contentEdited();
 }
 
 QVector<QPair<QString, ContentViewer::Parameters::ValueType>> ScreenItem::getValueNameTypeDefinition()
