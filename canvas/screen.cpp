@@ -191,9 +191,20 @@ void Screen::duplicateSelection()
         copies.append(copy);
     }
     clearSelection();
-    const QList<ScreenItem *> made = createItems(copies);
+    selectMade(createItems(copies));
+}
+
+void Screen::selectMade(const QList<ScreenItem *> &made)
+{
     for (ScreenItem *item : made)
         item->select();
+    showSettingsOfSelection();
+}
+
+void Screen::showSettingsOfSelection()
+{
+    // Not activated(): it would deselect the others and end an edit in place.
+    emit showSettingsFor(m_selection.size() == 1 ? m_selection.first() : nullptr);
 }
 
 void Screen::deleteSelectionAnd(ScreenItem *item)
@@ -373,9 +384,7 @@ void Screen::pasteShortcutActivated()
     if (objects.isEmpty())
         return;
     clearSelection();
-    const QList<ScreenItem *> made = createItems(objects);
-    for (ScreenItem *item : made)
-        item->select();
+    selectMade(createItems(objects));
 }
 
 void Screen::selectAllShortcutActivated()
@@ -384,6 +393,7 @@ void Screen::selectAllShortcutActivated()
     updateFor(m_items.size());
     for (ScreenItem *item : qAsConst(m_items))
         item->select();
+    showSettingsOfSelection();
 }
 
 void Screen::newItem(QString name)

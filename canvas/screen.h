@@ -125,6 +125,8 @@ private:
     void bindShortcuts();
     void changeSize(QSize size);
     void updateFor(int frames);
+    void selectMade(const QList<ScreenItem *> &made);
+    void showSettingsOfSelection();
     void deleteAllItems();
     bool isFull() const;
     ScreenItem *newFrame(QPoint position);
