@@ -478,6 +478,11 @@ void Screen::mousePressEvent(QMouseEvent *event)
         event->ignore();
         return;
     }
+    leaveItems();
+}
+
+void Screen::leaveItems()
+{
     updateFor(m_selection.size());
     emit deactivateFor(nullptr);
     emit showSettingsFor(nullptr);
