@@ -7,6 +7,7 @@ target_link_libraries(boardwright_edittest PUBLIC boardwright_editors boardwrigh
 boardwright_add_test(editors/tst_categorybutton LINK boardwright_editors)
 boardwright_add_test(editors/tst_choicebox LINK boardwright_editors)
 boardwright_add_test(editors/tst_colorlisteditor LINK boardwright_editors)
+boardwright_add_test(editors/tst_numberbox LINK boardwright_editors)
 boardwright_add_test(editors/tst_propertypanel LINK boardwright_editors)
 boardwright_add_test(editors/tst_variableedit LINK boardwright_editors)
 foreach(editor check color colorvalue enum filepath fontcolor fontfamily int styledcheck text)
