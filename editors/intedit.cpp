@@ -2,6 +2,7 @@
 
 #include "editors/keylabel.h"
 #include "editors/numberbox.h"
+#include "editors/wheelguard.h"
 
 #include <QDebug>
 #include <QHBoxLayout>
@@ -24,6 +25,7 @@ IntEdit::IntEdit(QWidget *parent)
     row->addWidget(m_spinBox, 1);
     setFocusProxy(m_spinBox);
     m_spinBox->setRange(-widestLimit, widestLimit);
+    new WheelGuard(m_spinBox);
     connect(m_spinBox, QOverload<int>::of(&QSpinBox::valueChanged), this, &IntEdit::valueChanged);
     connect(m_spinBox, &NumberBox::editBegins, this, &IntEdit::askTypingLimits);
 }

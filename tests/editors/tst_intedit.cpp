@@ -3,6 +3,7 @@
 #include "tests/editors/editlog.h"
 #include "tests/support/eventcounter.h"
 #include "tests/support/strictmain.h"
+#include "tests/support/wheel.h"
 
 #include <QAccessible>
 #include <QHBoxLayout>
@@ -10,7 +11,6 @@
 #include <QLineEdit>
 #include <QSpinBox>
 #include <QStyleOptionSpinBox>
-#include <QWheelEvent>
 
 namespace
 {
@@ -70,7 +70,7 @@ private slots:
     void stepsByKeys_data();
     void stepsByKeys();
     void stepsByArrows();
-    void stepsByWheel();
+    void stepsByWheelWithTheFocusAlone();
     void stepsOnWhileArrowIsHeld();
     void staysSilentWhenTypedValueIsTheShownOne();
 
@@ -292,15 +292,18 @@ void tst_IntEdit::stepsByArrows()
     QCOMPARE(log.takeEdits(), QStringList("valueEdited X int 5"));
 }
 
-void tst_IntEdit::stepsByWheel()
+void tst_IntEdit::stepsByWheelWithTheFocusAlone()
 {
     Shown shown;
     EditLog log(&shown.edit);
-    const QPoint place = shown.spinBox->rect().center();
-    QWheelEvent wheel(place, shown.spinBox->mapToGlobal(place), {}, {0, 120}, Qt::NoButton, Qt::NoModifier,
-                      Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(shown.spinBox, &wheel);
+    QVERIFY(QTest::qWaitForWindowActive(&shown.edit));
+    shown.spinBox->setFocus();
+    turnWheel(shown.spinBox, true);
     QCOMPARE(log.takeEdits(), QStringList("valueEdited X int 6"));
+    shown.spinBox->clearFocus();
+    turnWheel(shown.spinBox, true);
+    QVERIFY(!shown.spinBox->hasFocus());
+    QCOMPARE(log.takeEdits(), QStringList());
 }
 
 void tst_IntEdit::stepsOnWhileArrowIsHeld()

@@ -6,12 +6,15 @@
 #include "tests/canvas/shownscreen.h"
 #include "tests/support/boards.h"
 #include "tests/support/strictmain.h"
+#include "tests/support/wheel.h"
 
+#include <QComboBox>
 #include <QLoggingCategory>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QSpinBox>
 
-// The boxes of an item's panel, as they act on the item.
+// The number and list boxes of an item's panel, as they act on the item.
 class tst_PanelBoxes : public QObject
 {
     Q_OBJECT
@@ -23,6 +26,9 @@ private slots:
     void unfinishedNumberIsTakenWhenThePanelGoes();
     void unfinishedNumberGoesWithItsItem();
     void leavingABoxLeavesAnItemBeyondTheScreen();
+    void wheelScrollsThePanel_data();
+    void wheelScrollsThePanel();
+    void wheelChangesTheFocusedBox();
 };
 
 namespace
@@ -58,6 +64,16 @@ struct OpenPanel : ShownScreen {
         box<QSpinBox>(key)->setFocus();
         box<QSpinBox>(key)->selectAll();
         QTest::keyClicks(box<QSpinBox>(key), text);
+    }
+
+    /// How far the column and what is in it are scrolled down.
+    int scrolled() const
+    {
+        int sum = 0;
+        const auto areas = column.findChildren<QAbstractScrollArea *>();
+        for (const QAbstractScrollArea *area : areas)
+            sum += area->verticalScrollBar()->value();
+        return sum + column.verticalScrollBar()->value();
     }
 
     SettingsEditor column{&window};
@@ -152,6 +168,49 @@ void tst_PanelBoxes::leavingABoxLeavesAnItemBeyondTheScreen()
     QVERIFY(told.isEmpty());
     QCOMPARE(open.item->geometry(), beyond);
     QCOMPARE(open.box<QSpinBox>("X")->value(), -40);
+}
+
+void tst_PanelBoxes::wheelScrollsThePanel_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<bool>("isList");
+    QTest::newRow("number of the area") << "X" << false;
+    QTest::newRow("number of a text") << "Size" << false;
+    QTest::newRow("list of fonts") << "Font" << true;
+    QTest::newRow("list of fields") << "Text Type" << true;
+}
+
+void tst_PanelBoxes::wheelScrollsThePanel()
+{
+    QFETCH(QString, key);
+    QFETCH(bool, isList);
+    OpenPanel open("Text");
+    QVERIFY(open.ready);
+    open.column.resize(320, 150);
+    QCoreApplication::processEvents();
+    open.neighbour.setFocus();
+    const QMap<QString, QVariant> before = open.item->getValues();
+    QWidget *box = isList ? static_cast<QWidget *>(open.box<QComboBox>(key)) : open.box<QSpinBox>(key);
+    turnWheel(box, false);
+    QVERIFY(open.scrolled() > 0);
+    turnWheel(box, true);
+    QCOMPARE(open.scrolled(), 0);
+    QVERIFY(open.neighbour.hasFocus());
+    QCOMPARE(open.item->getValues(), before);
+}
+
+void tst_PanelBoxes::wheelChangesTheFocusedBox()
+{
+    OpenPanel open("Text");
+    QVERIFY(open.ready);
+    open.box<QSpinBox>("X")->setFocus();
+    turnWheel(open.box<QSpinBox>("X"), true);
+    QCOMPARE(open.item->x(), 21);
+    auto *fields = open.box<QComboBox>("Text Type");
+    fields->setCurrentIndex(0);
+    fields->setFocus();
+    turnWheel(fields, false);
+    QCOMPARE(open.item->getValue("Text Type").toString(), fields->itemText(1));
 }
 
 BOARDWRIGHT_TEST_MAIN(tst_PanelBoxes)
