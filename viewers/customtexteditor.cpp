@@ -177,7 +177,7 @@ void CustomTextEditor::insertFromMimeData(const QMimeData *source)
 
 QSharedPointer<QTextDocument> CustomTextEditor::withoutSelection() const
 {
-    const QSharedPointer<QTextDocument> copy(document()->clone());
+    QSharedPointer<QTextDocument> copy(document()->clone());
     QTextCursor cursor(copy.data());
     cursor.setPosition(textCursor().anchor());
     cursor.setPosition(textCursor().position(), QTextCursor::KeepAnchor);

@@ -30,7 +30,7 @@ uint entity(const QStringRef &name)
 {
     struct Entity {
         QLatin1String name;
-        char character;
+        char character = 0;
     };
     static const Entity named[] = {{QLatin1String("lt"), '<'},    {QLatin1String("gt"), '>'},
                                    {QLatin1String("quot"), '"'},  {QLatin1String("nbsp"), ' '},
