@@ -3,6 +3,7 @@
 #include "viewers/largeletters.h"
 #include "viewers/mediafile.h"
 #include "viewers/richtext.h"
+#include "viewers/textbounds.h"
 #include "viewers/textletters.h"
 
 #include <QApplication>
@@ -14,6 +15,7 @@
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QScrollBar>
+#include <QTextDocumentFragment>
 #include <QUrl>
 
 namespace
@@ -45,19 +47,21 @@ QImage carriedImage(const QUrl &address, qint64 room)
     return MediaFile::readPicture(buffer, room / MediaFile::bytesOf({1, 1}));
 }
 
-/// Plain text as the markup that it becomes.
-QString markupOf(const QString &text)
-{
-    return text.toHtmlEscaped().replace(QLatin1Char('\n'), QLatin1String("</span></p><p><span>"));
-}
-
-/// What the toolkit would insert, in its order of preference.
-QString markupOf(const QMimeData &source)
+/// The rich text that the toolkit would insert, in its order of preference; empty when it would insert plain
+/// text.
+QString htmlOf(const QMimeData &source)
 {
     const QString ownFormat = QStringLiteral("application/x-qrichtext");
     if (source.hasFormat(ownFormat))
         return QString::fromUtf8(source.data(ownFormat));
-    return source.hasHtml() ? source.html() : markupOf(source.text());
+    return source.hasHtml() ? source.html() : QString();
+}
+
+/// All of a source that a text could hold, as plain text.
+QString plainTextOf(const QMimeData &source)
+{
+    const int length = 2 * RichText::maximumText; // with the breaks between lines
+    return source.hasText() ? source.text().left(length) : RichText::excerpt(htmlOf(source), length);
 }
 
 /// Whether words are being dragged out of the editor, or were until just now.
@@ -70,14 +74,31 @@ bool hasDrag(const QTextEdit &editor)
 CustomTextEditor::CustomTextEditor(QWidget *parent) : QTextEdit(parent)
 {
     TextLetters::prepare(*document());
+    // Told before the layout hears of a change, whatever made it.
+    connect(document(), &QTextDocument::contentsChange, this, [this] { TextBounds::clamp(*document()); });
 }
 
-void CustomTextEditor::showHtml(const QString &html)
+bool CustomTextEditor::showHtml(const QString &html)
 {
     m_pictureBytes = 0;
     m_claim.take(0);
-    document()->setHtml(TextLetters::withoutRelativeLengths(html));
+    // Not laid out before it was judged.
+    QTextCursor step(document());
+    step.beginEditBlock();
+    const bool isWhole = readHtml(html);
+    if (!isWhole)
+        document()->setPlainText(RichText::excerpt(html));
     TextLetters::settle(*document());
+    step.endEditBlock();
+    return isWhole;
+}
+
+bool CustomTextEditor::readHtml(const QString &html)
+{
+    if (!RichText::isShowable(html))
+        return false;
+    document()->setHtml(TextLetters::withoutRelativeLengths(html));
+    return TextBounds::isShowable(*document());
 }
 
 QVariant CustomTextEditor::loadResource(int type, const QUrl &name)
@@ -146,12 +167,41 @@ void CustomTextEditor::showBeginning()
 
 void CustomTextEditor::insertFromMimeData(const QMimeData *source)
 {
-    // What is there already counts as well: a text that grows beyond its limits could not be opened again.
-    if (RichText::isShowable(toHtml() + markupOf(*source)))
+    const QString html = htmlOf(*source);
+    if (!html.isEmpty() && RichText::isShowable(html) &&
+        hasRoomFor(QTextDocumentFragment::fromHtml(html, document())))
         QTextEdit::insertFromMimeData(source);
     else
-        insertPlainText(RichText::excerpt(source->hasText() ? markupOf(source->text()) : markupOf(*source)));
+        insertBeginning(*source);
     TextLetters::settle(*document());
+}
+
+void CustomTextEditor::insertBeginning(const QMimeData &source)
+{
+    QString text = TextBounds::beginning(plainTextOf(source), *withoutSelection());
+    while (!text.isEmpty() && !hasRoomFor(QTextDocumentFragment::fromPlainText(text)))
+        text.truncate(text.size() / 2);
+    insertPlainText(text);
+}
+
+QSharedPointer<QTextDocument> CustomTextEditor::withoutSelection() const
+{
+    QSharedPointer<QTextDocument> copy(document()->clone());
+    QTextCursor cursor(copy.data());
+    cursor.setPosition(textCursor().anchor());
+    cursor.setPosition(textCursor().position(), QTextCursor::KeepAnchor);
+    cursor.removeSelectedText();
+    return copy;
+}
+
+bool CustomTextEditor::hasRoomFor(const QTextDocumentFragment &addition) const
+{
+    // Together with what is there already: a text that grows beyond its limits could not be opened again.
+    const QSharedPointer<QTextDocument> whole = withoutSelection();
+    QTextCursor cursor(whole.data());
+    cursor.setPosition(qMin(textCursor().selectionStart(), whole->characterCount() - 1));
+    cursor.insertFragment(addition);
+    return TextBounds::isShowable(*whole) && RichText::isShowable(whole->toHtml());
 }
 
 void CustomTextEditor::changeEvent(QEvent *event)

@@ -5,7 +5,6 @@
 #include "model/widgetgeometry.h"
 #include "viewers/customtexteditor.h"
 #include "viewers/datafields.h"
-#include "viewers/richtext.h"
 #include "viewers/textkeys.h"
 #include "viewers/textletters.h"
 #include "viewers/textpanel.h"
@@ -280,12 +279,7 @@ void TextOutput::showText()
 {
     if (m_isReading)
         return;
-    const QString html = m_values.value(TextKeys::text()).toString();
-    m_isShownWhole = RichText::isShowable(html);
-    if (m_isShownWhole)
-        m_editor->showHtml(html);
-    else
-        m_editor->document()->setPlainText(RichText::excerpt(html));
+    m_isShownWhole = m_editor->showHtml(m_values.value(TextKeys::text()).toString());
 }
 
 void TextOutput::format(const QString &key)
