@@ -15,7 +15,7 @@ foreach(class animationviewer imagevieweritem mediafile mediaviewer memoryclaim 
         videovieweritem)
     boardwright_add_test(viewers/tst_${class} LINK boardwright_canvas)
 endforeach()
-foreach(class gifframes gunzip iconentry jpegscans mediaplan pngchunks svgcontents tifflayout)
+foreach(class filecache gifframes gunzip iconentry jpegscans mediaplan pngchunks svgcontents tifflayout)
     boardwright_add_test(viewers/tst_${class} LINK boardwright_viewers)
 endforeach()
 boardwright_add_test(viewers/tst_textformat LINK boardwright_texttest)
