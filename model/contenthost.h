@@ -1,8 +1,11 @@
 #pragma once
 
+#include <QString>
+
 class ContentViewer;
 
-/// What a content needs to know of the frame that it is made in: that the frame takes it and hears of edits.
+/// What a content needs to know of the frame that it is made in: that the frame takes it and hears of edits,
+/// and what it is called.
 class ContentHost
 {
 public:
@@ -13,4 +16,7 @@ public:
 
     /// The content was edited in place: there is something to save.
     virtual void contentEdited() = 0;
+
+    /// The item's name, for the log; empty when it has none.
+    virtual QString name() const { return QString(); }
 };

@@ -124,12 +124,12 @@ void tst_MemoryClaim::takesNoPictureThatIsDeeperThanWasLeft()
 {
     MediaBoard<ImageViewerItem> board;
     board.content->setValue("Path", m_folder.picture({20, 10}));
-    // Eight bytes for each pixel, which a header is not asked for.
+    // Eight bytes for each pixel.
     const QImage deep = MediaFolder::chequered({70, 30}).convertToFormat(QImage::Format_RGBA64);
     const QString path = m_folder.picture(deep, "deep.png");
     MemoryClaim others;
-    QVERIFY(others.take(MemoryClaim::left() - 70 * 30 * 4));
-    QVERIFY(!MediaFile::readPicture(path).isNull());
+    QVERIFY(others.take(MemoryClaim::left() - 70 * 30 * 8 + 1));
+    QVERIFY(MediaFile::readPicture(path).isNull());
     board.content->setValue("Path", path);
     QCOMPARE(board.frame->size(), QSize(20, 10));
     QCOMPARE(board.picture(), MediaFolder::chequered({20, 10}));
