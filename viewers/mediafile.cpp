@@ -128,6 +128,12 @@ qint64 bytesBeside(const MediaPlan &plan)
 {
     return plan.copies * plan.pictureBytes();
 }
+
+/// With a frame as it is shown, in the format of the screen.
+qint64 bytesToPlay(const MediaPlan &plan)
+{
+    return qMax(plan.pictureBytes(), MediaFile::bytesOf(plan.size)) + bytesBeside(plan);
+}
 } // namespace
 
 bool MediaFile::isWithin(QSize size, qint64 area)
@@ -153,7 +159,7 @@ QImage MediaFile::pictureIn(const QByteArray &bytes, qint64 area, QString *reaso
 std::unique_ptr<QMovie> MediaFile::readMovie(const QString &path, QString *reason)
 {
     SharedMovie file = sharedMovie(path, reason);
-    if (!file || !isAffordable(file->plan, file->plan.pictureBytes() + ::bytesBeside(file->plan), reason))
+    if (!file || !isAffordable(file->plan, bytesToPlay(file->plan), reason))
         return nullptr;
     auto movie = std::make_unique<QMovie>();
     movie->setDevice(new MovieBuffer(std::move(file), movie.get()));

@@ -26,6 +26,7 @@ private slots:
     void readsNothingThatWouldNotFit();
     void readsNoFileLargerThanWhatIsLeft();
     void takesNoPictureThatIsDeeperThanWasLeft();
+    void playsNoPictureThatIsShownDeeperThanWasLeft();
     void keepsNoCopiesFromTheSecondHalf();
     void stretchesNoFramesBeyondIt();
 
@@ -136,6 +137,20 @@ void tst_MemoryClaim::takesNoPictureThatIsDeeperThanWasLeft()
     QVERIFY(others.take(0));
     board.content->setValue("Path", path);
     QCOMPARE(board.frame->size(), QSize(70, 30));
+}
+
+void tst_MemoryClaim::playsNoPictureThatIsShownDeeperThanWasLeft()
+{
+    // One bit for each pixel, but in a label all that the screen has.
+    const QImage mono = MediaFolder::chequered({70, 30}).convertToFormat(QImage::Format_Mono);
+    const QString path = m_folder.picture(mono, "mono.png");
+    const qint64 needed = QFileInfo(path).size() + 70 * 30 * 4;
+    MemoryClaim others;
+    QVERIFY(others.take(MemoryClaim::maximum - needed + 1));
+    QVERIFY(!MediaFile::readPicture(path).isNull());
+    QVERIFY(!MediaFile::readMovie(path));
+    QVERIFY(others.take(MemoryClaim::maximum - needed));
+    QVERIFY(MediaFile::readMovie(path));
 }
 
 void tst_MemoryClaim::keepsNoCopiesFromTheSecondHalf()
