@@ -46,8 +46,7 @@ void tellOfLimit(const QUrl &address, const QString &reason)
 QImage carriedImage(const QUrl &address, qint64 room)
 {
     QString reason;
-    const QImage image =
-        MediaFile::pictureIn(carriedBytes(address), room / MediaFile::bytesOf({1, 1}), &reason);
+    QImage image = MediaFile::pictureIn(carriedBytes(address), room / MediaFile::bytesOf({1, 1}), &reason);
     if (!reason.isEmpty())
         tellOfLimit(address, reason);
     return image;
