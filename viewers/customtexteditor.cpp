@@ -7,8 +7,8 @@
 #include "viewers/textletters.h"
 
 #include <QApplication>
-#include <QBuffer>
 #include <QContextMenuEvent>
+#include <QDebug>
 #include <QDrag>
 #include <QKeyEvent>
 #include <QMenu>
@@ -39,12 +39,27 @@ QByteArray carriedBytes(const QUrl &address)
                                                              : QByteArray();
 }
 
+/// Of an address that carries megabytes, the beginning says which it is.
+void tellOfLimit(const QUrl &address, const QString &reason)
+{
+    constexpr int beginning = 60;
+    qDebug().nospace() << "A text leaves out a picture, " << address.toString().left(beginning) << ": "
+                       << qPrintable(reason);
+}
+
 QImage carriedImage(const QUrl &address, qint64 room)
 {
-    QByteArray bytes = carriedBytes(address);
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::ReadOnly);
-    return MediaFile::readPicture(buffer, room / MediaFile::bytesOf({1, 1}));
+    QString reason;
+    QImage image = MediaFile::pictureIn(carriedBytes(address), room / MediaFile::bytesOf({1, 1}), &reason);
+    if (!reason.isEmpty())
+        tellOfLimit(address, reason);
+    return image;
+}
+
+/// What the image takes, in its own format and in that of the screen.
+qint64 bytesOf(const QImage &image)
+{
+    return qMax(qint64(image.sizeInBytes()), MediaFile::bytesOf(image.size()));
 }
 
 /// The rich text that the toolkit would insert, in its order of preference; empty when it would insert plain
@@ -109,8 +124,11 @@ QVariant CustomTextEditor::loadResource(int type, const QUrl &name)
         name.scheme() == QLatin1String("data") ? carriedImage(name, maximumBytes - m_pictureBytes) : QImage();
     if (image.isNull())
         return leftOut();
-    m_pictureBytes += MediaFile::bytesOf(image.size());
-    m_claim.take(m_pictureBytes);
+    if (!m_claim.take(m_pictureBytes + bytesOf(image))) {
+        tellOfLimit(name, QStringLiteral("all media together take too much memory"));
+        return leftOut();
+    }
+    m_pictureBytes += bytesOf(image);
     return image;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "viewers/mediaviewer.h"
+#include "viewers/sharedpicture.h"
 #include "viewers/stretchedpicture.h"
 
 /// The content of an image item: one still picture, stretched over the item.
@@ -16,5 +17,6 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    std::shared_ptr<const SharedPicture> m_source;
     StretchedPicture m_picture;
 };

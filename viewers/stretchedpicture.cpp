@@ -4,13 +4,16 @@
 
 #include <QPainter>
 
-bool StretchedPicture::setImage(const QImage &image)
+namespace
 {
-    if (!m_imageClaim.take(image.sizeInBytes()))
-        return false;
+/// Of the largest copy, in pixels: of one larger still only a part is ever in view.
+constexpr qint64 maximumCopyArea = 64 * 1024 * 1024;
+} // namespace
+
+void StretchedPicture::setImage(const QImage &image)
+{
     m_image = image;
     m_stretched = QPixmap();
-    return true;
 }
 
 void StretchedPicture::draw(QPainter &painter, QSize size)
@@ -29,8 +32,7 @@ void StretchedPicture::stretch(QSize size)
 {
     m_stretched = QPixmap();
     m_stretchedClaim.take(0);
-    // Of a copy that large only a part is ever in view.
-    const bool isWithin = MediaFile::isWithin(size, MediaFile::maximumPictureArea);
+    const bool isWithin = MediaFile::isWithin(size, maximumCopyArea);
     // The second half is for pictures: no copy of one may keep another from being read.
     const bool isAffordable = MemoryClaim::left() > MemoryClaim::maximum / 2;
     if (isWithin && isAffordable && m_stretchedClaim.take(MediaFile::bytesOf(size)))

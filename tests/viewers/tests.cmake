@@ -11,9 +11,12 @@ add_library(boardwright_texttest STATIC viewers/textboard.cpp viewers/textboard.
 target_link_libraries(boardwright_texttest PUBLIC boardwright_boardtest PRIVATE boardwright_warnings)
 boardwright_add_test(viewers/tst_textoutput LINK boardwright_texttest)
 boardwright_add_test(viewers/tst_textpanel LINK boardwright_panels boardwright_texttest)
-foreach(class animationviewer imagevieweritem mediafile mediaviewer memoryclaim movielabel stretchedpicture
-        videovieweritem)
+foreach(class animationviewer imagevieweritem mediafile mediaviewer memoryclaim movielabel sharedpicture
+        stretchedpicture videovieweritem)
     boardwright_add_test(viewers/tst_${class} LINK boardwright_canvas)
+endforeach()
+foreach(class filecache gifframes gunzip iconentry jpegscans mediaplan pngchunks svgcontents tifflayout)
+    boardwright_add_test(viewers/tst_${class} LINK boardwright_viewers)
 endforeach()
 boardwright_add_test(viewers/tst_textformat LINK boardwright_texttest)
 boardwright_add_test(viewers/tst_mediapanel LINK boardwright_panels)

@@ -3,6 +3,7 @@
 #include "canvas/screen.h"
 #include "canvas/screenitem.h"
 #include "tests/support/files.h"
+#include "tests/support/gif.h"
 #include "tests/support/strictmain.h"
 #include "tests/viewers/textboard.h"
 #include "viewers/memoryclaim.h"
@@ -37,6 +38,18 @@ QString carried(QSize size, const char *format = "png")
     QBuffer buffer;
     image.save(&buffer, format);
     return QString("data:image/%1;base64,").arg(format) + buffer.data().toBase64();
+}
+
+/// A GIF with a frame of 4 x 4 px on a screen of this size.
+QString carriedGif(QSize screen)
+{
+    QByteArray bytes = Gif{{4, 4}, {Qt::red}}.bytes();
+    for (const int at : {0, 1}) {
+        const int side = at ? screen.height() : screen.width();
+        bytes[6 + 2 * at] = char(side & 0xff);
+        bytes[7 + 2 * at] = char(side >> 8);
+    }
+    return "data:image/gif;base64," + bytes.toBase64();
 }
 
 QSize sizeOf(CustomTextEditor &editor, const QString &address)
@@ -151,6 +164,7 @@ private slots:
     void showsPicturesThatTheTextCarries();
     void picturesShareTheRoomOfTheirText();
     void picturesShareTheMemoryOfAllMedia();
+    void picturesCountAsWhatTheyTake();
     void pictureThatIsShownTwiceIsReadOnce();
     void leavesOutEverythingElse_data();
     void leavesOutEverythingElse();
@@ -237,6 +251,23 @@ void tst_CustomTextEditor::picturesShareTheMemoryOfAllMedia()
         QCOMPARE(sizeOf(editor, picture), QSize(7, 5));
     }
     QCOMPARE(MemoryClaim::left(), qint64(7 * 5 * 4));
+}
+
+void tst_CustomTextEditor::picturesCountAsWhatTheyTake()
+{
+    CustomTextEditor editor;
+    // The frame is of 4 x 4 px, the screen is what is decoded.
+    const QString picture = carriedGif({1000, 900});
+    MemoryClaim others;
+    QVERIFY(others.take(MemoryClaim::maximum - 1000 * 900 * 4 + 1));
+    const qint64 left = MemoryClaim::left();
+    QCOMPARE(sizeOf(editor, picture), QSize(1, 1));
+    QCOMPARE(MemoryClaim::left(), left);
+    QVERIFY(others.take(0));
+    QCOMPARE(sizeOf(editor, picture), QSize(1000, 900));
+    QCOMPARE(MemoryClaim::left(), MemoryClaim::maximum - 1000 * 900 * 4);
+    QCOMPARE(sizeOf(editor, carriedGif({1601, 1400})), QSize(1, 1));
+    QCOMPARE(sizeOf(editor, carriedGif({16405, 8977})), QSize(1, 1));
 }
 
 void tst_CustomTextEditor::pictureThatIsShownTwiceIsReadOnce()
