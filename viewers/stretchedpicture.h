@@ -3,7 +3,6 @@
 #include "viewers/memoryclaim.h"
 
 #include <QImage>
-#include <QPixmap>
 
 class QPainter;
 
@@ -24,6 +23,6 @@ private:
     void stretch(QSize size);
 
     QImage m_image;
-    QPixmap m_stretched; // null until it is drawn, and while no copy can be kept
+    QImage m_stretched; // null until it is drawn, and while no copy can be kept
     MemoryClaim m_stretchedClaim;
 };
