@@ -1,6 +1,8 @@
 #include "model/fontconfigrules.h"
 
 #ifdef BOARDWRIGHT_HAS_FONTCONFIG
+#include <QSet>
+
 #include <fontconfig/fontconfig.h>
 
 namespace
@@ -12,6 +14,15 @@ QStringList namesOf(FcPattern *font)
     for (int i = 0; FcPatternGetString(font, FC_FAMILY, i, &name) == FcResultMatch; ++i)
         names.append(QString::fromUtf8(reinterpret_cast<const char *>(name)));
     return names;
+}
+
+/// Upper and lower case make no other font.
+QSet<QString> inOneCase(const QStringList &names)
+{
+    QSet<QString> folded;
+    for (const QString &name : names)
+        folded.insert(name.toCaseFolded());
+    return folded;
 }
 
 /// Of the target "font": a rule for the pattern that is asked for would come before the desktop's own.
@@ -34,6 +45,29 @@ QStringList FontconfigRules::loadedNames()
     return names;
 }
 
+bool FontconfigRules::hideNamesakes()
+{
+    FcFontSet *fonts = FcConfigGetFonts(FcConfigGetCurrent(), FcSetSystem);
+    const QSet<QString> loaded = inOneCase(loadedNames());
+    if (!fonts)
+        return false;
+    const int before = fonts->nfont;
+    fonts->nfont = 0;
+    for (int i = 0; i < before; ++i) {
+        FcPattern *font = fonts->fonts[i];
+        if (inOneCase(namesOf(font)).intersects(loaded))
+            FcPatternDestroy(font);
+        else
+            fonts->fonts[fonts->nfont++] = font;
+    }
+    return fonts->nfont < before;
+}
+
+void FontconfigRules::forgetLoaded()
+{
+    FcConfigAppFontClear(FcConfigGetCurrent());
+}
+
 void FontconfigRules::keepSmooth(const QStringList &families)
 {
     QString rules;
@@ -50,6 +84,13 @@ QStringList FontconfigRules::loadedNames()
 {
     return {};
 }
+
+bool FontconfigRules::hideNamesakes()
+{
+    return false;
+}
+
+void FontconfigRules::forgetLoaded() {}
 
 void FontconfigRules::keepSmooth(const QStringList &families)
 {

@@ -5,6 +5,7 @@
 #include "tests/support/files.h"
 #include "tests/support/strictmain.h"
 
+#include <QDir>
 #include <QJsonDocument>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -23,6 +24,7 @@ private slots:
 private:
     QString path(const QString &name) const { return m_folder.filePath(name); }
     QString rules(const QString &name, const QString &edits);
+    QString namesakes();
     QByteArray rendered(const QStringList &variables);
 
     QTemporaryDir m_folder;
@@ -50,6 +52,23 @@ QString tst_SamePicture::rules(const QString &name, const QString &edits)
                           "<include ignore_missing=\"yes\">/etc/fonts/fonts.conf</include>" +
                           edits + "</fontconfig>";
     return writeFile(file, whole.toUtf8()) ? "FONTCONFIG_FILE=" + file : QString();
+}
+
+/// A desktop that has another font under the names of some that the program brings along.
+QString tst_SamePicture::namesakes()
+{
+    const QString fonts = ":/assets/fonts/";
+    const QStringList faces = QDir(fonts).entryList({"*Bangers*"}, QDir::Files);
+    QDir().mkdir(path("fonts"));
+    if (faces.isEmpty() || !QFile::copy(fonts + faces.first(), path("fonts/" + faces.first())))
+        return {};
+    // A memory of its own: others shall not take these names for those of the file.
+    const QString whole = "<fontconfig><dir>" + path("fonts") + "</dir><cachedir>" + path("cache") +
+                          "</cachedir><match target=\"scan\"><edit name=\"family\" mode=\"assign\">"
+                          "<string>OSWALD</string><string>Arimo</string><string>Exo 2 Black</string>"
+                          "</edit></match></fontconfig>";
+    return writeFile(path("namesakes.conf"), whole.toUtf8()) ? "FONTCONFIG_FILE=" + path("namesakes.conf")
+                                                             : QString();
 }
 
 QByteArray tst_SamePicture::rendered(const QStringList &variables)
@@ -97,6 +116,9 @@ void tst_SamePicture::isTheSameOnADesktop_data()
     const QString empty = path("empty.conf");
     QVERIFY(writeFile(empty, "<fontconfig></fontconfig>"));
     QTest::newRow("without rules and fonts") << QStringList{"FONTCONFIG_FILE=" + empty};
+    const QString others = namesakes();
+    QVERIFY(!others.isEmpty());
+    QTest::newRow("with other fonts of the same names") << QStringList{others};
     QTest::newRow("in another language") << QStringList{"LC_ALL=C", "LANGUAGE=ar"};
     QTest::newRow("without a home") << QStringList{"HOME=/nonexistent"};
 }
