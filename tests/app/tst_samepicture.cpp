@@ -104,6 +104,10 @@ void tst_SamePicture::isTheSameOnADesktop_data()
     QTest::newRow("with twice the pixels") << QStringList{"QT_DEVICE_PIXEL_RATIO=2"};
     QTest::newRow("without memory for letters") << QStringList{"QT_MAX_CACHED_GLYPH_SIZE=1"};
     QTest::newRow("with memory for large letters") << QStringList{"QT_MAX_CACHED_GLYPH_SIZE=4096"};
+    QTest::newRow("with thicker stems") << QStringList{"FREETYPE_PROPERTIES=autofitter:no-stem-darkening=0"};
+    QTest::newRow("without made up bold letters") << QStringList{"QT_NO_SYNTHESIZED_BOLD=1"};
+    QTest::newRow("without made up slanted letters") << QStringList{"QT_NO_SYNTHESIZED_ITALIC=1"};
+    QTest::newRow("with the toolkit's own joining") << QStringList{"QT_HARFBUZZ=old"};
     QTest::newRow("with hard edges") << QStringList{rules("edges", edit("antialias", "<bool>false</bool>"))};
     QTest::newRow("with coloured edges") << QStringList{rules(
         "colours", edit("rgba", "<const>rgb</const>") + edit("lcdfilter", "<const>lcddefault</const>"))};
