@@ -26,12 +26,14 @@ QSet<QString> inOneCase(const QStringList &names)
 }
 
 /// Of the target "font": a rule for the pattern that is asked for would come before the desktop's own.
-QString smoothRule(const QString &family)
+QByteArray smoothRule(const QString &family)
 {
-    return QStringLiteral(
-               "<match target=\"font\"><test name=\"family\" qual=\"any\"><string>%1</string></test>"
-               "<edit name=\"antialias\" mode=\"assign\"><bool>true</bool></edit></match>")
-        .arg(family.toHtmlEscaped());
+    return QStringLiteral("<fontconfig><match target=\"font\">"
+                          "<test name=\"family\" qual=\"any\"><string>%1</string></test>"
+                          "<edit name=\"antialias\" mode=\"assign\"><bool>true</bool></edit>"
+                          "</match></fontconfig>")
+        .arg(family.toHtmlEscaped())
+        .toUtf8();
 }
 } // namespace
 
@@ -70,12 +72,11 @@ void FontconfigRules::forgetLoaded()
 
 void FontconfigRules::keepSmooth(const QStringList &families)
 {
-    QString rules;
-    for (const QString &family : families)
-        rules.append(smoothRule(family));
-    const QByteArray file = QStringLiteral("<fontconfig>%1</fontconfig>").arg(rules).toUtf8();
     FcConfig *config = FcConfigGetCurrent();
-    FcConfigParseAndLoadFromMemory(config, reinterpret_cast<const FcChar8 *>(file.constData()), FcTrue);
+    // One by one: a name that no rule can hold, as fonts of the user may have, takes no other rule along.
+    for (const QString &family : families)
+        FcConfigParseAndLoadFromMemory(
+            config, reinterpret_cast<const FcChar8 *>(smoothRule(family).constData()), FcTrue);
     // A configuration read anew, because its files have changed meanwhile, would lack these rules.
     FcConfigSetRescanInterval(config, 0);
 }

@@ -20,6 +20,8 @@ private slots:
     void isTheSameOnADesktop_data();
     void isTheSameOnADesktop();
     void windowShowsThePicture();
+    void nameOfAUsersFontHarmsNoOther_data();
+    void nameOfAUsersFontHarmsNoOther();
 
 private:
     QString path(const QString &name) const { return m_folder.filePath(name); }
@@ -43,6 +45,25 @@ QString edit(const QString &property, const QString &value)
                      .arg(target, property, value);
     return rules;
 }
+
+const char *const bundledFonts = ":/assets/fonts/";
+
+QString bundledFile()
+{
+    return QDir(bundledFonts).entryList({"*Bangers*"}, QDir::Files).value(0);
+}
+
+/// Names in a font file have two bytes for each letter; the new one has as many letters as the old.
+QByteArray bundledFontNamed(const QString &family)
+{
+    const auto spelled = [](const QString &name) {
+        QByteArray bytes;
+        for (const QChar letter : name)
+            bytes.append(char(letter.row())).append(char(letter.cell()));
+        return bytes;
+    };
+    return readFile(bundledFonts + bundledFile()).replace(spelled("Bangers"), spelled(family));
+}
 } // namespace
 
 QString tst_SamePicture::rules(const QString &name, const QString &edits)
@@ -57,10 +78,8 @@ QString tst_SamePicture::rules(const QString &name, const QString &edits)
 /// A desktop that has another font under the names of some that the program brings along.
 QString tst_SamePicture::namesakes()
 {
-    const QString fonts = ":/assets/fonts/";
-    const QStringList faces = QDir(fonts).entryList({"*Bangers*"}, QDir::Files);
-    QDir().mkdir(path("fonts"));
-    if (faces.isEmpty() || !QFile::copy(fonts + faces.first(), path("fonts/" + faces.first())))
+    QDir(m_folder.path()).mkpath("fonts");
+    if (!QFile::copy(bundledFonts + bundledFile(), path("fonts/" + bundledFile())))
         return {};
     // A memory of its own: others shall not take these names for those of the file.
     const QString whole = "<fontconfig><dir>" + path("fonts") + "</dir><cachedir>" + path("cache") +
@@ -76,6 +95,8 @@ QByteArray tst_SamePicture::rendered(const QStringList &variables)
     QFile::remove(path("rendered.png"));
     QProcess process;
     process.setEnvironment(QProcess::systemEnvironment() + variables);
+    // A folder "fonts" in there is the user's.
+    process.setWorkingDirectory(path("work"));
     process.start(BOARDWRIGHT_RENDER_PROGRAM, {path("board.lay"), path("rendered.png")});
     process.waitForFinished(90000);
     return readFile(path("rendered.png"));
@@ -85,6 +106,7 @@ void tst_SamePicture::initTestCase()
 {
     REQUIRE_BUNDLED_FONTS();
     QVERIFY(writeFile(path("board.lay"), QJsonDocument(lettersBoard()).toJson()));
+    QVERIFY(QDir(m_folder.path()).mkpath("work"));
     m_rendered = rendered({});
     m_ordinary = ExportProcess::run(path("board.lay"), {});
     QVERIFY2(!m_ordinary.lines.isEmpty(), qPrintable(m_ordinary.log));
@@ -141,6 +163,23 @@ void tst_SamePicture::isTheSameOnADesktop()
 void tst_SamePicture::windowShowsThePicture()
 {
     QCOMPARE(m_ordinary.window, m_ordinary.first);
+}
+
+void tst_SamePicture::nameOfAUsersFontHarmsNoOther_data()
+{
+    QTest::addColumn<QString>("family");
+    QTest::newRow("signs of markup") << "B<&\"'>s";
+    QTest::newRow("control character") << "B\x01ngers";
+    QTest::newRow("blanks") << "       ";
+}
+
+void tst_SamePicture::nameOfAUsersFontHarmsNoOther()
+{
+    QFETCH(QString, family);
+    QVERIFY(QDir(m_folder.path()).mkpath("work/fonts"));
+    QVERIFY(writeFile(path("work/fonts/user.ttf"), bundledFontNamed(family)));
+    QVERIFY(rendered({rules("edges", edit("antialias", "<bool>false</bool>"))}) == m_rendered);
+    QVERIFY(QDir(path("work/fonts")).removeRecursively());
 }
 
 BOARDWRIGHT_EXPORT_TEST_MAIN(tst_SamePicture)
