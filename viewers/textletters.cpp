@@ -33,6 +33,9 @@ void settleSize(QTextCharFormat &format)
     if (!hasSize)
         return;
     const QFont font = format.font();
+    // Of points that are no whole pixels, the pixels tell no more than about.
+    if (font.pixelSize() > 0 && font.pixelSize() == BoardFonts::pixelSize(format.fontPointSize()))
+        return;
     if (font.pixelSize() > 0)
         setSizes(format, BoardFonts::points(font.pixelSize()), font.pixelSize());
     else

@@ -26,6 +26,8 @@ private slots:
     void headingsKeepTheirProportion();
     void emptyParagraphsAreSettledToo();
     void settledTextIsLeftAlone();
+    void settledSizesKeepTheirPoints_data();
+    void settledSizesKeepTheirPoints();
     void storesTheFontThatIsNamed();
     void storesTheStepThatLettersAreShownBy_data();
     void storesTheStepThatLettersAreShownBy();
@@ -157,6 +159,23 @@ void tst_TextLetters::settledTextIsLeftAlone()
     const int revision = text.document.revision();
     TextLetters::settle(text.document);
     QCOMPARE(text.document.revision(), revision);
+}
+
+void tst_TextLetters::settledSizesKeepTheirPoints_data()
+{
+    QTest::addColumn<int>("points");
+    for (const int points : {1, 8, 14, 15, 49, 512})
+        QTest::addRow("%d", points) << points;
+}
+
+void tst_TextLetters::settledSizesKeepTheirPoints()
+{
+    QFETCH(int, points);
+    ReadText text("<p>x</p>");
+    setSize(text.document, points);
+    TextLetters::settle(text.document);
+    QCOMPARE(text.first().fontPointSize(), qreal(points));
+    QCOMPARE(text.first().font().pixelSize(), BoardFonts::pixelSize(points));
 }
 
 void tst_TextLetters::storesTheFontThatIsNamed()
