@@ -2,6 +2,7 @@
 
 #include "assets/fontsresource.h"
 #include "model/boardfonts.h"
+#include "model/fontconfigrules.h"
 #include "model/fontfamilies.h"
 
 #include <QDebug>
@@ -22,6 +23,21 @@ int addFont(const QString &path)
     const auto *data = reinterpret_cast<const char *>(file.data());
     return QFontDatabase::addApplicationFontFromData(QByteArray::fromRawData(data, int(file.size())));
 }
+
+void loadFontFolders()
+{
+    loadFontFolder(QStringLiteral(":/assets/fonts/"));
+    loadFontFolder(QStringLiteral("./fonts/"));
+}
+
+/// The toolkit forgets fonts of the desktop only together with all others.
+void loadFontFoldersAnew()
+{
+    QFontDatabase::removeAllApplicationFonts();
+    FontconfigRules::forgetLoaded();
+    QFontDatabase().families();
+    loadFontFolders();
+}
 } // namespace
 
 void loadFontFolder(const QString &folder)
@@ -38,8 +54,9 @@ void loadApplicationFonts()
 {
     // Fonts added to a database that was never asked are registered a second time at the first text.
     QFontDatabase().families();
-    loadFontFolder(QStringLiteral(":/assets/fonts/"));
-    loadFontFolder(QStringLiteral("./fonts/"));
+    loadFontFolders();
+    if (FontconfigRules::hideNamesakes())
+        loadFontFoldersAnew();
     BoardFonts::settle();
     qDebug() << "Font families:" << FontFamilies::list() << "bundled files missing:" << missingFontFiles();
 }
