@@ -46,7 +46,7 @@ QImage pictureOf(Screen &screen)
     if (!isPaintable(screen.size()))
         return {};
     screen.goToRenderMode();
-    const QImage picture = painted(screen);
+    QImage picture = painted(screen);
     screen.goOutRenderMode();
     return picture;
 }
