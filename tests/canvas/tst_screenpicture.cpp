@@ -6,7 +6,6 @@
 #include "tests/support/strictmain.h"
 
 #include <QImage>
-#include <QImage>
 #include <QTemporaryDir>
 
 class tst_ScreenPicture : public QObject
