@@ -1,5 +1,4 @@
 boardwright_add_test(viewers/tst_contentfactory LINK boardwright_viewers)
-boardwright_add_test(viewers/tst_shapegeometry LINK boardwright_viewers)
 boardwright_add_test(viewers/tst_shapepainting LINK boardwright_viewers)
 boardwright_add_test(viewers/tst_shape LINK boardwright_viewers)
 boardwright_add_test(viewers/tst_shapepanel LINK boardwright_panels boardwright_boardtest)

@@ -1,4 +1,4 @@
-#include "viewers/shapegeometry.h"
+#include "pictures/shapegeometry.h"
 
 namespace
 {

@@ -1,0 +1,1 @@
+boardwright_add_test(pictures/tst_shapegeometry LINK boardwright_pictures)
