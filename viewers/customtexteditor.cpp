@@ -1,9 +1,9 @@
 #include "viewers/customtexteditor.h"
 
-#include "viewers/largeletters.h"
-#include "viewers/mediafile.h"
-#include "viewers/richtext.h"
-#include "viewers/textletters.h"
+#include "pictures/largeletters.h"
+#include "pictures/mediafile.h"
+#include "pictures/richtext.h"
+#include "pictures/textletters.h"
 
 #include <QApplication>
 #include <QBuffer>

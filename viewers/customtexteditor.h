@@ -1,6 +1,6 @@
 #pragma once
 
-#include "viewers/memoryclaim.h"
+#include "pictures/memoryclaim.h"
 
 #include <QTextEdit>
 

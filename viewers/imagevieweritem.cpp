@@ -1,6 +1,6 @@
 #include "viewers/imagevieweritem.h"
 
-#include "viewers/mediafile.h"
+#include "pictures/mediafile.h"
 
 ImageViewerItem::ImageViewerItem(QWidget *parent) : MediaViewer(QStringLiteral("Image Viewer"), parent) {}
 

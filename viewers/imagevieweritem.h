@@ -1,7 +1,7 @@
 #pragma once
 
+#include "pictures/stretchedpicture.h"
 #include "viewers/mediaviewer.h"
-#include "viewers/stretchedpicture.h"
 
 /// The content of an image item: one still picture, stretched over the item.
 class ImageViewerItem : public MediaViewer

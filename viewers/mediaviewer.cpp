@@ -6,7 +6,7 @@
 #include "model/keys.h"
 #include "model/pixels.h"
 #include "model/widgetgeometry.h"
-#include "viewers/stretchedpicture.h"
+#include "pictures/stretchedpicture.h"
 
 #include <QDebug>
 #include <QGridLayout>

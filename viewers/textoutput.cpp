@@ -3,13 +3,13 @@
 #include "model/contenthost.h"
 #include "model/keys.h"
 #include "model/widgetgeometry.h"
+#include "pictures/datafields.h"
+#include "pictures/richtext.h"
+#include "pictures/textkeys.h"
+#include "pictures/textletters.h"
+#include "pictures/textstyle.h"
 #include "viewers/customtexteditor.h"
-#include "viewers/datafields.h"
-#include "viewers/richtext.h"
-#include "viewers/textkeys.h"
-#include "viewers/textletters.h"
 #include "viewers/textpanel.h"
-#include "viewers/textstyle.h"
 
 #include <QDebug>
 #include <QMouseEvent>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/contentviewer.h"
-#include "viewers/textalignment.h"
+#include "pictures/textalignment.h"
 
 #include <QStringList>
 

@@ -1,1 +1,7 @@
-boardwright_add_test(pictures/tst_shapegeometry LINK boardwright_pictures)
+foreach(name datafields largeletters richtext shapegeometry stretchedpicture textalignment textletters
+        textstyle)
+    boardwright_add_test(pictures/tst_${name} LINK boardwright_pictures boardwright_fonts_resource)
+endforeach()
+foreach(name mediafile memoryclaim)
+    boardwright_add_test(pictures/tst_${name} LINK boardwright_canvas)
+endforeach()

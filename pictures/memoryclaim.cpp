@@ -1,4 +1,4 @@
-#include "viewers/memoryclaim.h"
+#include "pictures/memoryclaim.h"
 
 qint64 MemoryClaim::s_taken = 0;
 

@@ -1,4 +1,4 @@
-#include "viewers/richtext.h"
+#include "pictures/richtext.h"
 
 namespace
 {

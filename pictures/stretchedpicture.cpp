@@ -1,6 +1,6 @@
-#include "viewers/stretchedpicture.h"
+#include "pictures/stretchedpicture.h"
 
-#include "viewers/mediafile.h"
+#include "pictures/mediafile.h"
 
 #include <QPainter>
 

@@ -1,11 +1,11 @@
-#include "viewers/memoryclaim.h"
+#include "pictures/memoryclaim.h"
 
+#include "pictures/mediafile.h"
 #include "tests/support/strictmain.h"
 #include "tests/viewers/mediaboard.h"
 #include "tests/viewers/mediafolder.h"
 #include "viewers/animationviewer.h"
 #include "viewers/imagevieweritem.h"
-#include "viewers/mediafile.h"
 
 #include <QLabel>
 #include <QMovie>

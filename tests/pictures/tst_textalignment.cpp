@@ -1,4 +1,4 @@
-#include "viewers/textalignment.h"
+#include "pictures/textalignment.h"
 
 #include "tests/support/strictmain.h"
 

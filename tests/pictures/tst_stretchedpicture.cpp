@@ -1,8 +1,8 @@
-#include "viewers/stretchedpicture.h"
+#include "pictures/stretchedpicture.h"
 
+#include "pictures/mediafile.h"
 #include "tests/support/strictmain.h"
 #include "tests/viewers/mediafolder.h"
-#include "viewers/mediafile.h"
 
 #include <QPaintDevice>
 #include <QPaintEngine>

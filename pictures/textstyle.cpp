@@ -1,8 +1,8 @@
-#include "viewers/textstyle.h"
+#include "pictures/textstyle.h"
 
 #include "model/namedcolor.h"
-#include "viewers/textkeys.h"
-#include "viewers/textletters.h"
+#include "pictures/textkeys.h"
+#include "pictures/textletters.h"
 
 #include <QBrush>
 #include <QFont>

@@ -1,6 +1,6 @@
-#include "viewers/mediafile.h"
+#include "pictures/mediafile.h"
 
-#include "viewers/memoryclaim.h"
+#include "pictures/memoryclaim.h"
 
 #include <QBuffer>
 #include <QFile>

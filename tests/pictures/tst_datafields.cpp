@@ -1,4 +1,4 @@
-#include "viewers/datafields.h"
+#include "pictures/datafields.h"
 
 #include "tests/support/strictmain.h"
 

@@ -1,4 +1,4 @@
-#include "viewers/textstyle.h"
+#include "pictures/textstyle.h"
 
 #include "tests/support/strictmain.h"
 

@@ -1,4 +1,4 @@
-#include "viewers/largeletters.h"
+#include "pictures/largeletters.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QFont>

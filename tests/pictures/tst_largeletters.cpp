@@ -1,9 +1,9 @@
-#include "viewers/largeletters.h"
+#include "pictures/largeletters.h"
 
 #include "model/applicationfonts.h"
+#include "pictures/textletters.h"
 #include "tests/model/bundledfonts.h"
 #include "tests/support/strictmain.h"
-#include "viewers/textletters.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QPainter>

@@ -1,4 +1,4 @@
-#include "viewers/mediafile.h"
+#include "pictures/mediafile.h"
 
 #include "tests/support/strictmain.h"
 #include "tests/viewers/mediafolder.h"

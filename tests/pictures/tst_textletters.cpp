@@ -1,4 +1,4 @@
-#include "viewers/textletters.h"
+#include "pictures/textletters.h"
 
 #include "model/applicationfonts.h"
 #include "model/boardfonts.h"
