@@ -1,6 +1,5 @@
 #include "app/mainwindow.h"
-#include "model/boardfonts.h"
-#include "update/startenvironment.h"
+#include "app/startup.h"
 
 #include <QApplication>
 #include <QDebug>
@@ -8,12 +7,7 @@
 
 int main(int argc, char *argv[])
 {
-    startEnvironment();
-    BoardFonts::clearVariables();
-    // Nothing here draws with OpenGL; leaving it out halves the start-up work on X11. The platform asks for
-    // this late, so it cannot be taken back.
-    if (!qEnvironmentVariableIsSet("QT_XCB_GL_INTEGRATION"))
-        qputenv("QT_XCB_GL_INTEGRATION", "none");
+    prepareStart();
     QApplication application(argc, argv);
     qDebug() << QSslSocket::sslLibraryBuildVersionString();
     MainWindow window(nullptr);

@@ -57,5 +57,5 @@ QString savePicture(const QPixmap &picture, const QString &path)
     QBuffer bytes;
     if (!picture.save(&bytes, format.constData()))
         return text("no picture of this kind can hold the board.");
-    return FileWriting::writeInPlace(path, bytes.data());
+    return FileWriting::write(path, bytes.data());
 }

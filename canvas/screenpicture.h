@@ -9,5 +9,6 @@ class Screen;
 QPixmap pictureOf(Screen &screen);
 
 /// Writes the picture in the format of the path's suffix, with the toolkit's default quality. Answers why it
-/// could not be written, null on success. The file is not touched before there is something to write into it.
+/// could not be written, null on success. After a failure an older file of this name is
+/// as it was.
 QString savePicture(const QPixmap &picture, const QString &path);

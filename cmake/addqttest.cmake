@@ -1,5 +1,6 @@
 # boardwright_add_test(<folder>/tst_<class> LINK <libraries>): one QtTest program, one CTest case,
-# offscreen platform, fixed locale and time zone, time limit, a settings folder of its own.
+# offscreen platform, no desktop's theme (one needs a display), fixed locale and time zone, time limit,
+# a settings folder of its own.
 #   TIMEOUT <seconds>   overrides the time limit.
 #   RUNS <executables>  lets the test start them as processes, by the path in the macro <NAME>_PROGRAM.
 #   ON_DISPLAY          a virtual display with a window manager instead of the offscreen platform;
@@ -26,7 +27,7 @@ function(boardwright_add_test path)
     set_tests_properties(${path} PROPERTIES
         TIMEOUT ${test_TIMEOUT}
         SKIP_RETURN_CODE 77
-        ENVIRONMENT "QT_QPA_PLATFORM=${platform};LC_ALL=C.UTF-8;TZ=UTC;LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0;XDG_CONFIG_HOME=${CMAKE_BINARY_DIR}/tests/settings/${name}")
+        ENVIRONMENT "QT_QPA_PLATFORM=${platform};QT_QPA_PLATFORMTHEME=;LC_ALL=C.UTF-8;TZ=UTC;LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0;XDG_CONFIG_HOME=${CMAKE_BINARY_DIR}/tests/settings/${name}")
 endfunction()
 
 # Tells a test program where executables of ours are, and has them built first.

@@ -25,6 +25,7 @@ QJsonObject reloaded(Screen &screen, const QJsonObject &layout)
 extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    qunsetenv("QT_QPA_PLATFORMTHEME");
     qInstallMessageHandler(ignoreMessages);
     static QApplication application(*argc, *argv);
     initAssets();

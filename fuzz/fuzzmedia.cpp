@@ -63,6 +63,7 @@ void play(QMovie &movie)
 extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    qunsetenv("QT_QPA_PLATFORMTHEME");
     qInstallMessageHandler(ignoreMessages);
     static QApplication application(*argc, *argv);
     return 0;

@@ -1,20 +1,15 @@
 #pragma once
 
 #include <QByteArray>
-#include <QIODevice>
 #include <QString>
 
-class QFileDevice;
-
-/// Bytes into files in such a way that a full disk is noticed and its reason known.
+/// Files that are either wholly new or wholly as they were, whatever happens to the disk.
 namespace FileWriting
 {
-/// How a file is opened for the functions below: a buffer would keep the reason of a failure from us.
-constexpr QIODevice::OpenMode unbuffered = QIODevice::WriteOnly | QIODevice::Unbuffered;
-
-/// Writes all bytes into a file opened unbuffered; false, with the file's error set, when they do not fit.
-bool writeAll(QFileDevice &file, const QByteArray &bytes);
-
-/// Truncates the file, or makes it, and writes the bytes. Answers the error for the user, null on success.
-QString writeInPlace(const QString &filePath, const QByteArray &bytes);
+/// Writes the bytes into the file, or makes it, and answers the error for the user, null on success.
+/// A regular file is replaced only after the last byte has reached the disk, and keeps its owner, group,
+/// mode, access list and extended attributes; a link to it stays a link. A file that cannot be replaced with
+/// all of these, that has further names or is not in a folder that takes new files is written in place, and
+/// its old bytes are put back after a failure. A device or a pipe is written in place as well.
+QString write(const QString &filePath, const QByteArray &bytes);
 } // namespace FileWriting

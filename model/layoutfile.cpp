@@ -5,7 +5,6 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QJsonDocument>
-#include <QSaveFile>
 
 namespace
 {
@@ -22,32 +21,6 @@ QString whyNotReadable(const QFileInfo &info)
     if (info.size() > LayoutFile::maximumBytes)
         return text("The file is too large for a layout.");
     return {};
-}
-
-/// The next best where no second file can stand beside the old one: after a failure the old bytes go back.
-QString overwrite(const QString &filePath, const QByteArray &bytes)
-{
-    QFile old(filePath);
-    const QByteArray oldBytes = old.open(QIODevice::ReadOnly) ? old.read(old.size()) : QByteArray();
-    old.close();
-    QString error = FileWriting::writeInPlace(filePath, bytes);
-    if (!error.isNull())
-        FileWriting::writeInPlace(filePath, oldBytes);
-    return error;
-}
-
-QString writeRegular(const QString &filePath, const QByteArray &bytes)
-{
-    QSaveFile file(filePath);
-    if (file.open(FileWriting::unbuffered)) {
-        if (!FileWriting::writeAll(file, bytes))
-            return file.errorString();
-        if (file.commit())
-            return {};
-    }
-    // The folder takes no new file, the name leaves no room for a suffix, or the old file is not to be
-    // replaced.
-    return overwrite(filePath, bytes);
 }
 } // namespace
 
@@ -71,20 +44,5 @@ LayoutFile::Document LayoutFile::read(const QString &filePath)
 
 QString LayoutFile::write(const QString &filePath, const QJsonObject &layout)
 {
-    QFileInfo target(filePath);
-    target.setCaching(false);
-    const bool existed = target.exists();
-    if (existed && !target.isFile())
-        return FileWriting::writeInPlace(filePath, QJsonDocument(layout).toJson());
-    // Opening without truncating tells what a plain open for writing would, and harms nothing yet.
-    QFile probe(filePath);
-    if (!probe.open(QIODevice::WriteOnly | QIODevice::Append))
-        return probe.errorString();
-    probe.close();
-    // Links are followed to their end: the file is replaced, not the link to it.
-    const QString finalPath = target.canonicalFilePath();
-    QString error = writeRegular(finalPath, QJsonDocument(layout).toJson());
-    if (!error.isNull() && !existed)
-        QFile::remove(finalPath);
-    return error;
+    return FileWriting::write(filePath, QJsonDocument(layout).toJson());
 }

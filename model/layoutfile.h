@@ -32,9 +32,7 @@ struct Document {
 /// pipe) and what is larger than 256 MiB is refused unread.
 Document read(const QString &filePath);
 
-/// Writes the layout in the indented form and answers the error for the user, null on success.
-/// The file is either wholly new or wholly as it was: a regular file is replaced only after the last byte has
-/// reached the disk. Where a file cannot be replaced (its folder takes no new file) it is written in place,
-/// and its old bytes are put back after a failure. A device or a pipe is written in place as well.
+/// Writes the layout in the indented form, as FileWriting does, and answers the error for the user, null on
+/// success.
 QString write(const QString &filePath, const QJsonObject &layout);
 } // namespace LayoutFile

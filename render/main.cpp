@@ -50,6 +50,8 @@ int main(int argc, char *argv[])
     qInstallMessageHandler(keepLogQuiet);
     // No window is ever shown, so no display is needed, and no scale of one.
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    // The theme of a desktop could still ask for one.
+    qunsetenv("QT_QPA_PLATFORMTHEME");
     clearScales();
     BoardFonts::clearVariables();
     QApplication application(argc, argv);

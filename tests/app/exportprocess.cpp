@@ -1,10 +1,10 @@
 #include "tests/app/exportprocess.h"
 
 #include "app/mainwindow.h"
+#include "app/startup.h"
 #include "canvas/screen.h"
 #include "canvas/screenitem.h"
 #include "canvas/screenpicture.h"
-#include "model/boardfonts.h"
 #include "tests/support/files.h"
 #include "viewers/customtexteditor.h"
 
@@ -85,7 +85,7 @@ bool ExportProcess::isStarted(int argc, char **argv)
 
 int ExportProcess::exportBoard(int argc, char **argv)
 {
-    BoardFonts::clearVariables();
+    prepareStart();
     QApplication application(argc, argv);
     MainWindow window(nullptr);
     window.resize(1260, 780);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/startup.h"
+
 #include <QImage>
 #include <QString>
 #include <QStringList>
@@ -33,6 +35,7 @@ int exportBoard(int argc, char **argv);
     {                                                                                                        \
         if (ExportProcess::isStarted(argc, argv))                                                            \
             return ExportProcess::exportBoard(argc, argv);                                                   \
+        prepareStart();                                                                                      \
         QApplication application(argc, argv);                                                                \
         Test test;                                                                                           \
         return runStrictly(test, argc, argv);                                                                \

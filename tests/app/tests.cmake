@@ -21,15 +21,16 @@ target_link_libraries(boardwright_exporttest PUBLIC boardwright_app boardwright_
 boardwright_add_test(app/tst_samepicture LINK boardwright_exporttest RUNS boardwright-render)
 
 # The mouse and the keyboard of a real display.
-add_library(boardwright_displaytest STATIC app/x11/pointer.cpp app/x11/pointer.h)
-target_link_libraries(boardwright_displaytest PUBLIC boardwright_testsupport PRIVATE boardwright_warnings)
+add_library(boardwright_displaytest STATIC app/x11/displaymain.h app/x11/pointer.cpp app/x11/pointer.h)
+target_link_libraries(boardwright_displaytest
+    PUBLIC boardwright_app boardwright_testsupport PRIVATE boardwright_warnings)
 
-boardwright_add_test(app/x11/tst_realevents LINK boardwright_app boardwright_displaytest ON_DISPLAY)
+boardwright_add_test(app/x11/tst_realevents LINK boardwright_displaytest ON_DISPLAY)
 boardwright_add_test(app/x11/tst_denseboard LINK boardwright_exporttest RUNS boardwright-render ON_DISPLAY)
 boardwright_add_test(app/x11/tst_realprogram LINK boardwright_displaytest RUNS boardwright ON_DISPLAY)
 boardwright_add_test(app/x11/tst_realupdate
     LINK boardwright_updatetest boardwright_displaytest RUNS boardwright ON_DISPLAY)
 boardwright_add_test(app/x11/tst_twoeditors
     SOURCES app/x11/editorprocess.cpp app/x11/editorprocess.h
-    LINK boardwright_canvas boardwright_displaytest RUNS boardwright ON_DISPLAY)
+    LINK boardwright_displaytest RUNS boardwright ON_DISPLAY)
 boardwright_needs_diverted_endpoint(app/tst_updatecommand app/x11/tst_realupdate)

@@ -1,4 +1,5 @@
 #include "tests/app/commandtest.h"
+#include "tests/support/apart.h"
 
 #include <QDir>
 #include <QImageReader>
@@ -16,6 +17,8 @@ private slots:
     void exportDoesNothingWhenCancelled();
     void exportFailsSilently_data();
     void exportFailsSilently();
+    void fullDiskLeavesTheOldPictureWhole_data();
+    void fullDiskLeavesTheOldPictureWhole();
 };
 
 void tst_ExportCommand::exportAsksForAnImageFile()
@@ -118,6 +121,33 @@ void tst_ExportCommand::exportFailsSilently()
     triggerExport();
     QVERIFY(answers.areUsedUp());
     QVERIFY(!QFile::exists(path(name)));
+}
+
+void tst_ExportCommand::fullDiskLeavesTheOldPictureWhole_data()
+{
+    QTest::addColumn<QString>("name");
+
+    QTest::newRow("png") << "board.png";
+    QTest::newRow("jpeg") << "board.jpg";
+    QTest::newRow("bmp") << "board.bmp";
+}
+
+void tst_ExportCommand::fullDiskLeavesTheOldPictureWhole()
+{
+    QFETCH(QString, name);
+
+    openSmallBoard();
+    QVERIFY(writeFile(path(name), "the old picture"));
+    const QStringList before = files();
+    DialogAnswers answers;
+    answers.choose(path(name)).press("Yes");
+    {
+        const FullDisk disk(256);
+        triggerExport();
+    }
+    QVERIFY(answers.areUsedUp());
+    QCOMPARE(readFile(path(name)), QByteArray("the old picture"));
+    QCOMPARE(files(), before);
 }
 
 BOARDWRIGHT_TEST_MAIN(tst_ExportCommand)

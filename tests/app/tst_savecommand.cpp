@@ -1,6 +1,9 @@
 #include "tests/app/commandtest.h"
+#include "tests/support/apart.h"
 
 #include <QDir>
+
+#include <unistd.h>
 
 // Saving and saving under another name.
 class tst_SaveCommand : public CommandTest
@@ -12,9 +15,11 @@ private slots:
     void savingKeepsTheModifiedFlag();
     void savingNoPathOnlyLogs();
     void savingReplacesALongerFile();
+    void savingKeepsTheOtherNamesOfAFile();
     void savingFailsInABox_data();
     void savingFailsInABox();
     void savingToAFullDiskTellsIt();
+    void savingToAFullDiskLeavesTheOldFileWhole();
     void saveCommandAsksForAPathAtFirst();
     void saveCommandAsksAgainAfterNew();
     void saveCommandWritesBackWithoutAsking();
@@ -67,6 +72,15 @@ void tst_SaveCommand::savingReplacesALongerFile()
     QCOMPARE(files(), QStringList("long.lay"));
 }
 
+void tst_SaveCommand::savingKeepsTheOtherNamesOfAFile()
+{
+    const QString file = openSmallBoard();
+    QCOMPARE(::link(qPrintable(file), qPrintable(path("other.lay"))), 0);
+    canvas().newItem("Shape");
+    triggerSave();
+    QCOMPARE(readFile(path("other.lay")), bytesOf(canvas().saveLayout()));
+}
+
 void tst_SaveCommand::savingFailsInABox_data()
 {
     QTest::addColumn<QString>("name");
@@ -107,6 +121,21 @@ void tst_SaveCommand::savingToAFullDiskTellsIt()
     QCOMPARE(answers.seen().first().title, QString("Error"));
     QCOMPARE(answers.seen().first().text, QString("No space left on device"));
     QCOMPARE(window().currentPath(), before);
+}
+
+void tst_SaveCommand::savingToAFullDiskLeavesTheOldFileWhole()
+{
+    const QString file = openSmallBoard();
+    canvas().newItem("Shape");
+    DialogAnswers answers;
+    answers.press("OK");
+    {
+        const FullDisk disk(256);
+        triggerSave();
+    }
+    QVERIFY(answers.areUsedUp());
+    QCOMPARE(answers.seen().first().text, QString("File too large"));
+    QCOMPARE(readFile(file), bytesOf(smallBoard()));
 }
 
 void tst_SaveCommand::saveCommandAsksForAPathAtFirst()

@@ -1,6 +1,7 @@
 boardwright_add_test(model/tst_applicationfonts LINK boardwright_model boardwright_fonts_resource)
 boardwright_add_test(model/tst_boardfonts LINK boardwright_model boardwright_fonts_resource)
 boardwright_add_test(model/tst_applicationstyle LINK boardwright_contents)
+boardwright_add_test(model/tst_filewriting LINK boardwright_model)
 boardwright_add_test(model/tst_fontfamilies LINK boardwright_model)
 boardwright_add_test(model/tst_fontsubstitutions LINK boardwright_model boardwright_fonts_resource)
 boardwright_add_test(model/tst_layoutfile LINK boardwright_model)

@@ -1,6 +1,7 @@
 #include "model/layoutfile.h"
 
 #include "assets/assets.h"
+#include "tests/support/apart.h"
 #include "tests/support/strictmain.h"
 
 #include <QDir>
@@ -11,77 +12,15 @@
 
 #include <cerrno>
 #include <csignal>
-#include <functional>
 #include <memory>
 
 #include <fcntl.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 namespace
 {
-constexpr unsigned ordinaryUser = 65534;
-
-/// How a function ended that ran in a process of its own, and what it answered.
-struct Outcome {
-    int status = 0;
-    QString answer;
-};
-
-QString readAll(int descriptor)
-{
-    QFile pipe;
-    if (!pipe.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle))
-        return {};
-    return QString::fromUtf8(pipe.readAll());
-}
-
-[[noreturn]] void runAndLeave(const std::function<QString()> &function, int descriptor)
-{
-    const QByteArray answer = function().toUtf8();
-    const ssize_t written = ::write(descriptor, answer.constData(), static_cast<size_t>(answer.size()));
-    ::_exit(written == answer.size() ? 0 : 1);
-}
-
-/// Runs the function in a process of its own, so that limits, rights and death stay there.
-Outcome runApart(const std::function<QString()> &function)
-{
-    int ends[2] = {};
-    if (::pipe(ends) != 0)
-        return {-1, {}};
-    const pid_t child = ::fork();
-    if (child == 0)
-        runAndLeave(function, ends[1]);
-    ::close(ends[1]);
-    Outcome outcome;
-    outcome.answer = readAll(ends[0]);
-    ::waitpid(child, &outcome.status, 0);
-    return outcome;
-}
-
-/// Rights are not asked of root: root becomes somebody else first.
-QString asOrdinaryUser(const std::function<QString()> &function)
-{
-    return runApart([function] {
-               if (::getuid() == 0 && (::setgid(ordinaryUser) != 0 || ::setuid(ordinaryUser) != 0))
-                   return QStringLiteral("cannot become an ordinary user");
-               return function();
-           })
-        .answer;
-}
-
-/// From here on no file of this process grows beyond the size.
-void fillTheDisk(rlim_t bytes, void (*whenFull)(int))
-{
-    const rlimit noCore = {0, 0};
-    ::setrlimit(RLIMIT_CORE, &noCore);
-    const rlimit size = {bytes, bytes};
-    ::setrlimit(RLIMIT_FSIZE, &size);
-    std::signal(SIGXFSZ, whenFull);
-}
-
 QString openError(const QString &path, QIODevice::OpenMode mode)
 {
     QFile file(path);
@@ -591,7 +530,7 @@ QString tst_LayoutFile::writeOnFullDisk(const QString &filePath)
     QFETCH(int, freeBytes);
     QFETCH(QJsonObject, layout);
     return asOrdinaryUser([&] {
-        fillTheDisk(rlim_t(freeBytes), SIG_IGN);
+        fillTheDisk(quint64(freeBytes), SIG_IGN);
         return LayoutFile::write(filePath, layout);
     });
 }

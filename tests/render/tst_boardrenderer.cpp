@@ -4,6 +4,7 @@
 #include "canvas/screen.h"
 #include "canvas/screenitem.h"
 #include "canvas/screenpicture.h"
+#include "tests/support/apart.h"
 #include "tests/support/boards.h"
 #include "tests/support/files.h"
 #include "tests/support/gif.h"
@@ -13,12 +14,12 @@
 #include <QDir>
 #include <QImageReader>
 #include <QJsonDocument>
+#include <QLibraryInfo>
 #include <QProcess>
 #include <QTemporaryDir>
 
-#ifdef Q_OS_UNIX
 #include <sys/stat.h>
-#endif
+#include <unistd.h>
 
 // The batch renderer, as a function and as the real program on a machine without display.
 class tst_BoardRenderer : public QObject
@@ -38,7 +39,9 @@ private slots:
     void choosesTheFormatBySuffix();
     void leavesOutGridAndBorders();
     void replacesAnOlderPicture();
+    void keepsTheOtherNamesOfAnOlderPicture();
     void paintsOnePixelForEachOfTheScreenOnAScaledDesktop();
+    void needsNoThemeOfADesktop();
     void rendersNamesBeyondAscii();
 
     void refusesALayout_data();
@@ -55,6 +58,10 @@ private slots:
     void leavesAFileOfUnknownSuffixAlone();
     void noticesAFullDisk_data();
     void noticesAFullDisk();
+    void fullDiskLeavesTheOldPictureWhole_data();
+    void fullDiskLeavesTheOldPictureWhole();
+    void writesIntoItsOwnOutput_data();
+    void writesIntoItsOwnOutput();
     void keepsToOneLineForNamesWithLineEnds();
     void tellsNamesWithPlaceholdersAsTheyAre();
     void tellsItsUsage_data();
@@ -68,7 +75,8 @@ private:
         QByteArray errors;
     };
 
-    static Run run(const QStringList &arguments, const QStringList &environment = {});
+    static Run run(const QStringList &arguments, const QStringList &environment = {},
+                   const QString &outputFile = {});
     Run render(const QByteArray &layout, const QString &picture = "board.png");
     void verifyFailure(const Run &run, const QByteArray &part) const;
     QString path(const QString &name) const { return m_folder->filePath(name); }
@@ -105,6 +113,11 @@ QImage editorPictureOf(const QString &layout)
     return pictureOf(*window.canvas()).toImage();
 }
 
+bool hasPlatformTheme(const QString &name)
+{
+    return QFile::exists(QLibraryInfo::location(QLibraryInfo::PluginsPath) + "/platformthemes/" + name);
+}
+
 QImage comparable(const QImage &picture)
 {
     return picture.convertToFormat(QImage::Format_ARGB32);
@@ -117,7 +130,8 @@ void tst_BoardRenderer::init()
     QVERIFY(m_folder->isValid());
 }
 
-tst_BoardRenderer::Run tst_BoardRenderer::run(const QStringList &arguments, const QStringList &environment)
+tst_BoardRenderer::Run tst_BoardRenderer::run(const QStringList &arguments, const QStringList &environment,
+                                              const QString &outputFile)
 {
     QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
     for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "XDG_RUNTIME_DIR"})
@@ -126,6 +140,8 @@ tst_BoardRenderer::Run tst_BoardRenderer::run(const QStringList &arguments, cons
         variables.insert(variable.section('=', 0, 0), variable.section('=', 1));
     QProcess process;
     process.setProcessEnvironment(variables);
+    if (!outputFile.isEmpty())
+        process.setStandardOutputFile(outputFile);
     process.start(BOARDWRIGHT_RENDER_PROGRAM, arguments);
     const bool ended = process.waitForFinished(90000) && process.exitStatus() == QProcess::NormalExit;
     return {ended ? process.exitCode() : -1, process.readAllStandardOutput(), process.readAllStandardError()};
@@ -267,12 +283,31 @@ void tst_BoardRenderer::replacesAnOlderPicture()
     QCOMPARE(readFile(path("other.png")), first);
 }
 
+void tst_BoardRenderer::keepsTheOtherNamesOfAnOlderPicture()
+{
+    writeFile(path("board.png"), QByteArray(100000, 'x'));
+    QCOMPARE(::link(qPrintable(path("board.png")), qPrintable(path("other.png"))), 0);
+    QCOMPARE(render(bytesOf(colourfulBoard())).code, 0);
+    QCOMPARE(QImage(path("other.png")), QImage(path("board.png")));
+    QCOMPARE(QImage(path("other.png")).size(), QSize(200, 100));
+}
+
 void tst_BoardRenderer::paintsOnePixelForEachOfTheScreenOnAScaledDesktop()
 {
     writeFile(path("board.lay"), bytesOf(colourfulBoard()));
     QCOMPARE(run({path("board.lay"), path("plain.png")}).code, 0);
     QCOMPARE(run({path("board.lay"), path("scaled.png")}, {"QT_SCALE_FACTOR=2"}).code, 0);
     QCOMPARE(QImage(path("scaled.png")), QImage(path("plain.png")));
+}
+
+void tst_BoardRenderer::needsNoThemeOfADesktop()
+{
+    if (!hasPlatformTheme("libqgtk3.so"))
+        QSKIP("the theme that asks for a display is not installed");
+    writeFile(path("board.lay"), bytesOf(colourfulBoard()));
+    const Run result = run({path("board.lay"), path("board.png")}, {"QT_QPA_PLATFORMTHEME=gtk3"});
+    QCOMPARE(result.errors, QByteArray());
+    QCOMPARE(result.code, 0);
 }
 
 void tst_BoardRenderer::rendersNamesBeyondAscii()
@@ -387,13 +422,9 @@ void tst_BoardRenderer::refusesAFileThatIsNoRegularOne()
 
 void tst_BoardRenderer::refusesAPipe()
 {
-#ifdef Q_OS_UNIX
     // Nobody ever writes into it.
     QCOMPARE(mkfifo(qPrintable(path("pipe.lay")), 0600), 0);
     verifyFailure(run({path("pipe.lay"), path("board.png")}), "Cannot read");
-#else
-    QSKIP("no named pipes in folders here");
-#endif
 }
 
 void tst_BoardRenderer::refusesAPictureName_data()
@@ -441,6 +472,47 @@ void tst_BoardRenderer::noticesAFullDisk()
         QSKIP("no device that is always full");
     QVERIFY(QFile::link("/dev/full", path(picture)));
     verifyFailure(render(bytesOf(colourfulBoard()), picture), "No space left on device");
+}
+
+void tst_BoardRenderer::fullDiskLeavesTheOldPictureWhole_data()
+{
+    noticesAFullDisk_data();
+}
+
+void tst_BoardRenderer::fullDiskLeavesTheOldPictureWhole()
+{
+    QFETCH(QString, picture);
+
+    writeFile(path("board.lay"), bytesOf(colourfulBoard()));
+    QVERIFY(writeFile(path(picture), "the old picture"));
+    const QStringList before = files();
+    const FullDisk disk(256);
+    verifyFailure(run({path("board.lay"), path(picture)}), "File too large");
+    QCOMPARE(readFile(path(picture)), QByteArray("the old picture"));
+    QCOMPARE(files(), before);
+}
+
+void tst_BoardRenderer::writesIntoItsOwnOutput_data()
+{
+    QTest::addColumn<bool>("isFile");
+
+    QTest::newRow("pipe") << false;
+    QTest::newRow("file") << true;
+}
+
+void tst_BoardRenderer::writesIntoItsOwnOutput()
+{
+    QFETCH(bool, isFile);
+
+    QCOMPARE(render(bytesOf(colourfulBoard()), "plain.png").code, 0);
+    QVERIFY(QFile::link("/dev/stdout", path("out.png")));
+    QFile output(path("output"));
+    QVERIFY(output.open(QIODevice::ReadWrite));
+    const Run result = run({path("board.lay"), path("out.png")}, {}, isFile ? output.fileName() : QString());
+    QCOMPARE(result.errors, QByteArray());
+    QCOMPARE(result.code, 0);
+    // Whoever has the file open already finds the picture in it.
+    QCOMPARE(isFile ? output.readAll() : result.output, readFile(path("plain.png")));
 }
 
 void tst_BoardRenderer::keepsToOneLineForNamesWithLineEnds()

@@ -27,6 +27,10 @@ children+=($!)
 read -rt 60 number <"$work/display" || { cat "$work/server.log" >&2; exit 1; }
 export DISPLAY=:$number
 
+# The desktop here is the window manager alone. The user's own would bring its dialogs, and libraries that leak.
+export XDG_CURRENT_DESKTOP=openbox
+unset QT_QPA_PLATFORMTHEME
+
 # A configuration of its own keeps the user's key bindings out.
 mkdir "$work/config"
 XDG_CONFIG_HOME=$work/config openbox --sm-disable --startup "sh -c 'echo ready >$work/manager'" 2>"$work/manager.log" &

@@ -1,6 +1,7 @@
 #include "tests/app/x11/editorprocess.h"
 
 #include "tests/app/x11/pointer.h"
+#include "update/startenvironment.h"
 
 #include <QTest>
 
@@ -14,6 +15,7 @@ EditorProcess::EditorProcess(const QString &program)
 {
     m_process.setProcessChannelMode(QProcess::MergedChannels);
     m_process.setStandardOutputFile(QProcess::nullDevice());
+    m_process.setProcessEnvironment(startEnvironment());
     m_process.start(program, QStringList());
 }
 

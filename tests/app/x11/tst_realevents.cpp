@@ -2,11 +2,11 @@
 #include "app/screencontainer.h"
 #include "canvas/screen.h"
 #include "canvas/screenitem.h"
+#include "tests/app/x11/displaymain.h"
 #include "tests/app/x11/pointer.h"
 #include "tests/support/boards.h"
 #include "tests/support/dialoganswers.h"
 #include "tests/support/files.h"
-#include "tests/support/strictmain.h"
 
 #include <QCursor>
 #include <QJsonDocument>
@@ -250,5 +250,5 @@ void tst_RealEvents::controlOOpensTheBoardThatIsTyped()
     QCOMPARE(m_window->currentPath(), path);
 }
 
-BOARDWRIGHT_TEST_MAIN(tst_RealEvents)
+BOARDWRIGHT_DISPLAY_TEST_MAIN(tst_RealEvents)
 #include "tst_realevents.moc"

@@ -1,7 +1,8 @@
+#include "tests/app/x11/displaymain.h"
 #include "tests/app/x11/pointer.h"
 #include "tests/support/boards.h"
 #include "tests/support/files.h"
-#include "tests/support/strictmain.h"
+#include "update/startenvironment.h"
 
 #include <QJsonDocument>
 #include <QProcess>
@@ -50,6 +51,7 @@ void tst_RealProgram::init()
     m_program.reset(new QProcess);
     m_program->setWorkingDirectory(m_folder->path());
     m_program->setProcessChannelMode(QProcess::MergedChannels);
+    m_program->setProcessEnvironment(startEnvironment());
     m_program->start(BOARDWRIGHT_PROGRAM, QStringList());
     QVERIFY(waitsForWindow("Boardwright"));
 }
@@ -138,5 +140,5 @@ void tst_RealProgram::editsAFileFromOpeningToSaving()
     QVERIFY(hasEndedWell());
 }
 
-BOARDWRIGHT_TEST_MAIN(tst_RealProgram)
+BOARDWRIGHT_DISPLAY_TEST_MAIN(tst_RealProgram)
 #include "tst_realprogram.moc"

@@ -1,5 +1,7 @@
+#include "tests/app/x11/displaymain.h"
 #include "tests/app/x11/pointer.h"
 #include "tests/update/updatetest.h"
+#include "update/startenvironment.h"
 
 #include <QProcess>
 #include <QTcpSocket>
@@ -26,7 +28,7 @@ const char *const drawingVariable = "QT_XCB_GL_INTEGRATION";
 struct Editor {
     Editor(const HttpServer &endpoint, const QByteArray &drawing)
     {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        QProcessEnvironment environment = startEnvironment();
         environment.remove(drawingVariable);
         if (!drawing.isNull())
             environment.insert(drawingVariable, drawing);
@@ -126,5 +128,5 @@ void tst_RealUpdate::exitKeyEndsItWhileADownloadKeepsSilent()
     QVERIFY(files().isEmpty());
 }
 
-BOARDWRIGHT_TEST_MAIN(tst_RealUpdate)
+BOARDWRIGHT_DISPLAY_TEST_MAIN(tst_RealUpdate)
 #include "tst_realupdate.moc"

@@ -1,9 +1,9 @@
 #include "canvas/itemclipboard.h"
+#include "tests/app/x11/displaymain.h"
 #include "tests/app/x11/editorprocess.h"
 #include "tests/app/x11/pointer.h"
 #include "tests/support/boards.h"
 #include "tests/support/files.h"
-#include "tests/support/strictmain.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -151,5 +151,5 @@ void tst_TwoEditors::cutItemsOutliveTheirBoard()
     QTRY_COMPARE_WITH_TIMEOUT(savedItems("next.lay"), QJsonArray({item}), patience);
 }
 
-BOARDWRIGHT_TEST_MAIN(tst_TwoEditors)
+BOARDWRIGHT_DISPLAY_TEST_MAIN(tst_TwoEditors)
 #include "tst_twoeditors.moc"
