@@ -4,7 +4,7 @@
 build_packages=(
     ca-certificates g++ cmake ninja-build ccache
     qtbase5-dev qtbase5-dev-tools
-    fontconfig libfontconfig-dev fonts-dejavu-core
+    fontconfig libfontconfig-dev libpng-dev fonts-dejavu-core
 )
 test_packages=(
     xvfb xauth x11-utils xdotool openbox
