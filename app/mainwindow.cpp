@@ -175,12 +175,14 @@ void MainWindow::openFile(QString filePath)
 void MainWindow::saveFile(QString filePath)
 {
     const QJsonObject layout = m_screen->saveLayout();
+    m_saveFailed = false;
     if (!filePath.isEmpty()) {
         const QString error = LayoutFile::write(filePath, layout);
-        if (error.isNull())
-            m_currentPath = filePath;
-        else
+        m_saveFailed = !error.isNull();
+        if (m_saveFailed)
             showError(tr("Error"), error);
+        else
+            m_currentPath = filePath;
     }
     qDebug("saveFile");
 }
@@ -209,11 +211,17 @@ void MainWindow::openActionTriggered()
 void MainWindow::newFileActionTriggered()
 {
     const Answer answer = m_screen->isModified() ? askToSave(this) : Answer::None;
-    if (answer == Answer::Yes)
-        m_saveAction->trigger();
-    if (answer != Answer::Cancel)
+    // A board that could not be saved stays; one whose saving was called off goes.
+    const bool isKept = answer == Answer::Cancel || (answer == Answer::Yes && !triggerSave());
+    if (!isKept)
         openEmptyLayout();
     qDebug("newFileActionTriggered");
+}
+
+bool MainWindow::triggerSave()
+{
+    m_saveAction->trigger();
+    return !m_saveFailed;
 }
 
 void MainWindow::openEmptyLayout()

@@ -57,6 +57,7 @@ private:
     QString askForLayoutToSave();
     void openEmptyLayout();
     void showError(const QString &title, const QString &text);
+    bool triggerSave();
 
     Screen *m_screen = nullptr;
     ScreenContainer *m_screenContainer = nullptr;
@@ -69,4 +70,5 @@ private:
     QDockWidget *m_itemBarDock = nullptr;
     QAction *m_saveAction = nullptr;
     QString m_currentPath;
+    bool m_saveFailed = false; // the last one, with its box; one that was called off has not failed
 };

@@ -3,6 +3,7 @@
 #include "canvas/screen.h"
 
 #include <QCoreApplication>
+#include <QMouseEvent>
 #include <QScrollBar>
 
 namespace
@@ -54,4 +55,23 @@ void ScreenContainer::resizeEvent(QResizeEvent *event)
     QScrollArea::resizeEvent(event);
     widget()->resize(size());
     calculateGeometry();
+}
+
+bool ScreenContainer::viewportEvent(QEvent *event)
+{
+    if (!isPressBesideScreen(*event))
+        return QScrollArea::viewportEvent(event);
+    m_screen->leaveItems();
+    return true;
+}
+
+bool ScreenContainer::isPressBesideScreen(const QEvent &event) const
+{
+    // The second press of a double click comes as one of its own.
+    if (!m_screen ||
+        (event.type() != QEvent::MouseButtonPress && event.type() != QEvent::MouseButtonDblClick))
+        return false;
+    // What the canvas leaves to others, it has its reasons for.
+    const QPoint position = static_cast<const QMouseEvent &>(event).pos();
+    return !m_screen->rect().contains(m_screen->mapFrom(viewport(), position));
 }

@@ -23,7 +23,11 @@ public slots:
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
+    /// A press on the ground around the canvas acts as one on the bare canvas.
+    bool viewportEvent(QEvent *event) override;
 
 private:
+    bool isPressBesideScreen(const QEvent &event) const;
+
     QPointer<Screen> m_screen; // null again when the canvas is deleted elsewhere
 };

@@ -97,6 +97,12 @@ QSize FrameGeometry::clampedSize(const QRect &frame, QSize screen)
     return size.expandedTo(QSize(0, 0));
 }
 
+bool FrameGeometry::liesOnScreen(const QRect &frame, QSize screen)
+{
+    return frame.x() >= 0 && frame.y() >= 0 && frame.width() >= 0 && frame.height() >= 0 &&
+           frame.x() + frame.width() <= screen.width() && frame.y() + frame.height() <= screen.height();
+}
+
 QPoint FrameGeometry::groupMove(const QRect &boundingBox, QPoint wanted, QSize screen)
 {
     const QPoint farCorner(boundingBox.x() + boundingBox.width(), boundingBox.y() + boundingBox.height());

@@ -191,9 +191,20 @@ void Screen::duplicateSelection()
         copies.append(copy);
     }
     clearSelection();
-    const QList<ScreenItem *> made = createItems(copies);
+    selectMade(createItems(copies));
+}
+
+void Screen::selectMade(const QList<ScreenItem *> &made)
+{
     for (ScreenItem *item : made)
         item->select();
+    showSettingsOfSelection();
+}
+
+void Screen::showSettingsOfSelection()
+{
+    // Not activated(): it would deselect the others and end an edit in place.
+    emit showSettingsFor(m_selection.size() == 1 ? m_selection.first() : nullptr);
 }
 
 void Screen::deleteSelectionAnd(ScreenItem *item)
@@ -224,8 +235,8 @@ void Screen::loadLayout(const QJsonObject &document)
     deleteAllItems();
     m_nameCounters.clear();
     const QJsonObject parameters = document.value(Keys::parameters()).toObject();
-    setWidgth(parameters.value(Keys::width()).toInt());
-    setHeight(parameters.value(Keys::height()).toInt());
+    setWidgth(wholeNumber(parameters.value(Keys::width())));
+    setHeight(wholeNumber(parameters.value(Keys::height())));
     setBackgrounColor(namedColor(parameters.value(Keys::backgroundColor()).toString()));
     createItems(document.value(Keys::items()).toArray());
     m_modified = false;
@@ -373,9 +384,7 @@ void Screen::pasteShortcutActivated()
     if (objects.isEmpty())
         return;
     clearSelection();
-    const QList<ScreenItem *> made = createItems(objects);
-    for (ScreenItem *item : made)
-        item->select();
+    selectMade(createItems(objects));
 }
 
 void Screen::selectAllShortcutActivated()
@@ -384,6 +393,7 @@ void Screen::selectAllShortcutActivated()
     updateFor(m_items.size());
     for (ScreenItem *item : qAsConst(m_items))
         item->select();
+    showSettingsOfSelection();
 }
 
 void Screen::newItem(QString name)
@@ -468,6 +478,11 @@ void Screen::mousePressEvent(QMouseEvent *event)
         event->ignore();
         return;
     }
+    leaveItems();
+}
+
+void Screen::leaveItems()
+{
     updateFor(m_selection.size());
     emit deactivateFor(nullptr);
     emit showSettingsFor(nullptr);

@@ -42,6 +42,9 @@ public:
     /// Deselects every frame.
     void clearSelection();
 
+    /// What a press beside the items does: no frame is active or selected and no panel shown any more.
+    void leaveItems();
+
     /// Keeps the selection list in step with a frame's own flag; for the frame alone.
     void noteSelected(ScreenItem *item, bool selected);
 
@@ -125,6 +128,8 @@ private:
     void bindShortcuts();
     void changeSize(QSize size);
     void updateFor(int frames);
+    void selectMade(const QList<ScreenItem *> &made);
+    void showSettingsOfSelection();
     void deleteAllItems();
     bool isFull() const;
     ScreenItem *newFrame(QPoint position);

@@ -11,6 +11,7 @@
 #include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPointer>
+#include <QScopedValueRollback>
 #include <QVBoxLayout>
 
 namespace
@@ -30,6 +31,14 @@ QPoint arrowStep(int key)
     default:
         return {};
     }
+}
+
+using Guarded = QList<QPointer<ScreenItem>>;
+
+/// The frames for a walk on which some of them may be deleted.
+Guarded guarded(const QList<ScreenItem *> &frames)
+{
+    return {frames.begin(), frames.end()};
 }
 
 /// Counts frames without a width or height as well, which united rectangles would leave out.
@@ -104,6 +113,16 @@ void ScreenItem::contentEdited()
 {
     if (Screen *screen = canvas())
         screen->markModified();
+}
+
+void ScreenItem::placeAsStored(const QRect &stored)
+{
+    const Screen *screen = canvas();
+    if (!screen || !FrameGeometry::liesOnScreen(stored, screen->size()))
+        return;
+    const QScopedValueRollback<bool> placing(m_isPlacing, true);
+    resizeNow(this, stored.size());
+    moveNow(this, stored.topLeft());
 }
 
 void ScreenItem::attachToScreen(Screen *screen)
@@ -198,7 +217,10 @@ void ScreenItem::deactivateSlot(ScreenItem *item)
 
 void ScreenItem::setMyName(QString myName)
 {
+    if (myName == m_name)
+        return;
     m_name = std::move(myName);
+    contentEdited();
 }
 
 QVector<QPair<QString, ContentViewer::Parameters::ValueType>> ScreenItem::getValueNameTypeDefinition()
@@ -452,14 +474,31 @@ void ScreenItem::keyPressEvent(QKeyEvent *event)
         deleteByKey();
         return;
     }
+    // Whoever hears of a move may delete frames, this one as well.
+    const QPointer<ScreenItem> guard(this);
     if (event->modifiers() == Qt::ControlModifier)
         nudgeSelection(event->key());
     else if (event->modifiers() == Qt::ShiftModifier)
         growSelection(event->key());
+    if (guard)
+        tellSelection();
+}
+
+void ScreenItem::tellSelection()
+{
+    const Guarded selection = guarded(canvas()->selection());
+    const QRect told = geometry();
     // Every member is told this frame's geometry and not its own: on purpose.
-    const QList<ScreenItem *> selection = canvas()->selection();
-    for (ScreenItem *frame : selection)
-        emit frame->newGeometry(geometry());
+    for (const QPointer<ScreenItem> &frame : selection) {
+        if (frame)
+            emit frame->newGeometry(told);
+    }
+    // The contents have taken that for their own: what they hold, and what is saved and copied, shall be what
+    // is drawn.
+    for (const QPointer<ScreenItem> &frame : selection) {
+        if (frame && frame->m_content)
+            frame->m_content->newGeometrySlot(frame->geometry());
+    }
 }
 
 void ScreenItem::deleteByKey()
@@ -475,9 +514,11 @@ void ScreenItem::nudgeSelection(int key)
     const QPoint step = arrowStep(key);
     if (step.isNull())
         return;
-    const QList<ScreenItem *> selection = canvas()->selection();
-    for (ScreenItem *frame : selection)
-        frame->move(frame->pos() + step);
+    const Guarded selection = guarded(canvas()->selection());
+    for (const QPointer<ScreenItem> &frame : selection) {
+        if (frame)
+            frame->move(frame->pos() + step);
+    }
 }
 
 void ScreenItem::growSelection(int key)
@@ -487,9 +528,11 @@ void ScreenItem::growSelection(int key)
         return;
     // This frame's width is given to every member, while each keeps its own height: on purpose.
     const int newWidth = width() + step.x();
-    const QList<ScreenItem *> selection = canvas()->selection();
-    for (ScreenItem *frame : selection)
-        frame->resize(newWidth, frame->height() + step.y());
+    const Guarded selection = guarded(canvas()->selection());
+    for (const QPointer<ScreenItem> &frame : selection) {
+        if (frame)
+            frame->resize(newWidth, frame->height() + step.y());
+    }
 }
 
 void ScreenItem::moveEvent(QMoveEvent *event)
@@ -506,7 +549,7 @@ void ScreenItem::resizeEvent(QResizeEvent *event)
     if (!screen)
         return;
     const QSize clamped = FrameGeometry::clampedSize(QRect(pos(), event->size()), screen->size());
-    if (clamped != event->size())
+    if (clamped != event->size() && !m_isPlacing)
         resize(clamped);
     screen->markModified();
     m_border->resize(size());

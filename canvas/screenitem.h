@@ -31,6 +31,10 @@ public:
 
     void contentEdited() override;
 
+    /// A geometry on the screen is not clamped: the clamp of a resize widens frames that are taller than the
+    /// room beside them, and an item that was saved so would come back as another.
+    void placeAsStored(const QRect &stored) override;
+
     /// The content, null until there is one.
     ContentViewer *content() const { return m_content; }
 
@@ -130,12 +134,14 @@ private:
     void deleteByKey();
     void nudgeSelection(int key);
     void growSelection(int key);
+    void tellSelection();
 
     bool m_selected = false;
     bool m_renderMode = false;
     bool m_active = false;
     bool m_contextMenuOpen = false;
     bool m_editable = true; // a switch that nothing turns off yet
+    bool m_isPlacing = false;
     HitZone m_hitZone = HitZone::None;
     QPoint m_pressAnchor; // global mouse position at the last press less the frame's position then
     QVBoxLayout *m_layout = nullptr;

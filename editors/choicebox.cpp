@@ -1,10 +1,14 @@
 #include "editors/choicebox.h"
 
 #include "editors/focusmark.h"
+#include "editors/wheelguard.h"
 
 #include <QStyledItemDelegate>
 
-ChoiceBox::ChoiceBox(QWidget *parent) : QComboBox(parent) {}
+ChoiceBox::ChoiceBox(QWidget *parent) : QComboBox(parent)
+{
+    new WheelGuard(this);
+}
 
 void ChoiceBox::showPopup()
 {

@@ -3,7 +3,7 @@
 #include <QComboBox>
 
 /// A combo box that shows in the application's colours which of its choices is the current one, and that it
-/// has the focus.
+/// has the focus, without which the wheel leaves it alone.
 class ChoiceBox : public QComboBox
 {
     Q_OBJECT

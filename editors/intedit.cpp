@@ -1,11 +1,12 @@
 #include "editors/intedit.h"
 
 #include "editors/keylabel.h"
+#include "editors/numberbox.h"
+#include "editors/wheelguard.h"
 
 #include <QDebug>
 #include <QHBoxLayout>
 #include <QSignalBlocker>
-#include <QSpinBox>
 
 namespace
 {
@@ -15,7 +16,7 @@ constexpr int widestLimit = 0x0FFFFFFF;
 IntEdit::IntEdit(QWidget *parent)
     : VariableEdit("IntEdit", parent),
       m_label(new KeyLabel(this)),
-      m_spinBox(new QSpinBox(this))
+      m_spinBox(new NumberBox(this))
 {
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
@@ -24,7 +25,9 @@ IntEdit::IntEdit(QWidget *parent)
     row->addWidget(m_spinBox, 1);
     setFocusProxy(m_spinBox);
     m_spinBox->setRange(-widestLimit, widestLimit);
+    new WheelGuard(m_spinBox);
     connect(m_spinBox, QOverload<int>::of(&QSpinBox::valueChanged), this, &IntEdit::valueChanged);
+    connect(m_spinBox, &NumberBox::editBegins, this, &IntEdit::askTypingLimits);
 }
 
 void IntEdit::setValue(QString key, QVariant value)
@@ -91,4 +94,14 @@ void IntEdit::askLimits()
         m_spinBox->setMaximum(maximum.toInt());
     if (minimum.isValid() && minimum.toInt() != m_spinBox->minimum())
         m_spinBox->setMinimum(minimum.toInt());
+    m_spinBox->limitTyping(m_spinBox->minimum(), m_spinBox->maximum());
+}
+
+void IntEdit::askTypingLimits()
+{
+    // The range stays: it would cut what is shown of an item that lies beyond its limits.
+    const QVariant maximum = emit getMax(m_key);
+    const QVariant minimum = emit getMin(m_key);
+    m_spinBox->limitTyping(minimum.isValid() ? minimum.toInt() : m_spinBox->minimum(),
+                           maximum.isValid() ? maximum.toInt() : m_spinBox->maximum());
 }

@@ -3,10 +3,11 @@
 #include "editors/variableedit.h"
 
 class KeyLabel;
-class QSpinBox;
+class NumberBox;
 
 /// Edits a whole number in a spin box with a label. Its range follows the limits that are asked for at every
-/// edit.
+/// edit; a number that is typed beyond them becomes the nearest of them when the edit ends, and is not told
+/// before.
 class IntEdit : public VariableEdit
 {
     Q_OBJECT
@@ -34,8 +35,9 @@ private slots:
 private:
     void adoptKey(const QString &key);
     void askLimits();
+    void askTypingLimits();
 
     KeyLabel *m_label;
-    QSpinBox *m_spinBox;
+    NumberBox *m_spinBox;
     QString m_key;
 };

@@ -1,8 +1,10 @@
 #pragma once
 
 class ContentViewer;
+class QRect;
 
-/// What a content needs to know of the frame that it is made in: that the frame takes it and hears of edits.
+/// What a content needs to know of the frame that it is made in: that the frame takes it, hears of edits
+/// and is told where the item was stored.
 class ContentHost
 {
 public:
@@ -13,4 +15,9 @@ public:
 
     /// The content was edited in place: there is something to save.
     virtual void contentEdited() = 0;
+
+    /// The content was read from an item object that holds this geometry (canvas pixels). A host on a screen
+    /// takes what lies wholly on it as it is; anything else stays as the values, set one by one, have made
+    /// it.
+    virtual void placeAsStored(const QRect &stored) = 0;
 };

@@ -26,6 +26,12 @@ Entries geometryIn(const QMap<QString, QVariant> &values)
     return entries;
 }
 
+bool hasGeometry(const QMap<QString, QVariant> &values)
+{
+    return values.contains(Keys::x()) && values.contains(Keys::y()) && values.contains(Keys::w()) &&
+           values.contains(Keys::h());
+}
+
 void applyKey(QWidget *frame, const QString &key, int pixels)
 {
     if (key == Keys::x())
@@ -48,6 +54,14 @@ void applyToFrame(QWidget *frame, const Entries &geometry)
 QVariant toVariant(const QJsonValue &value)
 {
     return value.isDouble() ? QVariant(value.toDouble()) : value.toVariant();
+}
+
+QRect geometryIn(const QJsonObject &object)
+{
+    const auto pixels = [&object](const QString &key) {
+        return toPixels(toVariant(object.value(key)));
+    };
+    return {pixels(Keys::x()), pixels(Keys::y()), pixels(Keys::w()), pixels(Keys::h())};
 }
 } // namespace
 
@@ -139,8 +153,16 @@ bool ContentViewer::fromJson(QJsonObject object)
             complete = false;
     }
     anyValueChanged();
+    placeHost(object);
     endReading();
     return complete;
+}
+
+void ContentViewer::placeHost(const QJsonObject &object)
+{
+    auto *host = dynamic_cast<ContentHost *>(parentWidget());
+    if (host && hasGeometry(m_values))
+        host->placeAsStored(geometryIn(object));
 }
 
 QJsonObject ContentViewer::toJson()

@@ -66,6 +66,8 @@ public:
     virtual void buildSettingsPanel(QWidget *host) = 0;
 
     /// Reads every defined parameter from the object; one that is missing there becomes an invalid value.
+    /// A geometry that lies on the screen is taken as it is stored, whatever the frame's clamps would make of
+    /// its values on their way.
     /// False when the value map lacked a defined parameter, which is then skipped.
     bool fromJson(QJsonObject object);
 
@@ -101,4 +103,7 @@ protected:
     void storeGeometry(const QRect &geometry);
 
     QMap<QString, QVariant> m_values;
+
+private:
+    void placeHost(const QJsonObject &object);
 };

@@ -1,5 +1,7 @@
 #include "model/pixels.h"
 
+#include <cmath>
+
 int toPixels(const QVariant &value)
 {
     if (value.userType() != QMetaType::Double)
@@ -8,4 +10,9 @@ int toPixels(const QVariant &value)
     if (qIsNaN(number))
         return 0;
     return qRound(qBound(-double(maximumPixels), number, double(maximumPixels)));
+}
+
+int wholeNumber(const QJsonValue &value)
+{
+    return QJsonValue(std::round(value.toDouble())).toInt();
 }

@@ -2,6 +2,7 @@
 
 #include "canvas/screen.h"
 #include "editors/coloredit.h"
+#include "editors/wheelguard.h"
 #include "model/keys.h"
 
 #include <QHBoxLayout>
@@ -18,6 +19,7 @@ QSpinBox *addLength(QHBoxLayout *row, const QString &name, QWidget *parent)
     auto *label = new QLabel(name, parent);
     auto *box = new QSpinBox(parent);
     box->setRange(minimumLength, maximumLength);
+    new WheelGuard(box);
     label->setBuddy(box);
     row->addWidget(label);
     row->addWidget(box);

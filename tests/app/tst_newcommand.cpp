@@ -1,5 +1,6 @@
 #include "tests/app/commandtest.h"
 
+#include <QDir>
 #include <QPushButton>
 
 // A new layout, and the question about the old one.
@@ -12,11 +13,23 @@ private slots:
     void newAsksWhenChanged();
     void newYesSavesFirst();
     void newYesLoadsTheTemplateAlthoughSavingWasCancelled();
+    void newYesKeepsTheBoardWhenSavingFails();
+    void newYesAsksAnewAfterAFailure();
     void newNoLoadsTheTemplate();
     void newCancelChangesNothing();
     void newBoxHasNoEscapeButton();
     void newTreatsAnyOtherAnswerAsUnchanged();
 };
+
+namespace
+{
+/// Nothing can be saved under this path any more, whoever runs the test.
+void replaceByAFolder(const QString &file)
+{
+    QVERIFY(QFile::remove(file));
+    QVERIFY(QDir().mkdir(file));
+}
+} // namespace
 
 void tst_NewCommand::newLoadsTheTemplateWithoutAskingWhenUnchanged()
 {
@@ -66,6 +79,40 @@ void tst_NewCommand::newYesLoadsTheTemplateAlthoughSavingWasCancelled()
     QVERIFY(answers.areUsedUp());
     QCOMPARE(answers.seen().at(1).title, QString("Input lay file path"));
     QCOMPARE(files(), QStringList());
+    verifyIsTemplate();
+}
+
+void tst_NewCommand::newYesKeepsTheBoardWhenSavingFails()
+{
+    const QString file = openSmallBoard();
+    canvas().newItem("Shape");
+    const QJsonObject changed = canvas().saveLayout();
+    replaceByAFolder(file);
+    DialogAnswers answers;
+    answers.press("Yes").press("OK");
+    expectLog("newFileActionTriggered");
+    triggerNew();
+    QVERIFY(answers.areUsedUp());
+    QCOMPARE(answers.seen().at(1).title, QString("Error"));
+    QCOMPARE(canvas().saveLayout(), changed);
+    QCOMPARE(window().currentPath(), file);
+    QVERIFY(canvas().isModified());
+}
+
+void tst_NewCommand::newYesAsksAnewAfterAFailure()
+{
+    const QString file = openSmallBoard();
+    canvas().newItem("Shape");
+    replaceByAFolder(file);
+    DialogAnswers answers;
+    answers.press("Yes").press("OK");
+    triggerNew();
+    QCOMPARE(canvas().items().size(), 3);
+    QVERIFY(QDir().rmdir(file));
+    answers.press("Yes");
+    triggerNew();
+    QVERIFY(answers.areUsedUp());
+    QVERIFY(QFileInfo(file).isFile());
     verifyIsTemplate();
 }
 

@@ -1,6 +1,7 @@
 #include "app/screencontainer.h"
 
 #include "canvas/screen.h"
+#include "canvas/screenitem.h"
 #include "tests/support/strictmain.h"
 
 #include <QMetaMethod>
@@ -36,6 +37,11 @@ private slots:
     void screenThatShrinksIsCentredAgain();
     void calculateGeometrySetsMinimumAndPlace();
     void wideScreenIsCentredVertically();
+    void pressBesideTheScreenLeavesTheItems_data();
+    void pressBesideTheScreenLeavesTheItems();
+    void otherPressesLeaveTheSelection_data();
+    void otherPressesLeaveTheSelection();
+    void pressWithoutAScreenDoesNothing();
 };
 
 namespace
@@ -57,6 +63,30 @@ struct View {
 
     ScreenContainer container;
     Screen *screen = new Screen;
+};
+
+/// A view with a selected item, and what its screen tells.
+struct SelectedItem : View {
+    SelectedItem(QSize viewSize, QSize screenSize) : View(viewSize, screenSize)
+    {
+        item->setGeometry(10, 10, 50, 20);
+        item->activate();
+        QObject::connect(screen, &Screen::deactivateFor, &container,
+                         [this](ScreenItem *told) { lines << (told ? "deactivate" : "deactivate all"); });
+        QObject::connect(screen, &Screen::showSettingsFor, &container, [this](ScreenItem *told) {
+            lines << (told ? "show" : "show none");
+            selectedWhenShown = item->isSelected();
+        });
+    }
+
+    void press(QPoint position, Qt::MouseButton button = Qt::LeftButton)
+    {
+        QTest::mouseClick(container.windowHandle(), button, {}, position);
+    }
+
+    ScreenItem *item = new ScreenItem(screen);
+    QStringList lines;
+    bool selectedWhenShown = true;
 };
 
 bool isInMiddle(const QScrollBar *bar)
@@ -308,6 +338,68 @@ void tst_ScreenContainer::wideScreenIsCentredVertically()
     QVERIFY(isInMiddle(view.container.horizontalScrollBar()));
     QVERIFY(!view.container.verticalScrollBar()->isVisible());
     QCOMPARE(view.screen->y(), (view.container.viewport()->height() - 96) / 2);
+}
+
+void tst_ScreenContainer::pressBesideTheScreenLeavesTheItems_data()
+{
+    QTest::addColumn<QPoint>("position");
+    QTest::addColumn<bool>("isRightButton");
+    QTest::newRow("left of it") << QPoint(10, 200) << false;
+    QTest::newRow("right of it, with another button") << QPoint(590, 200) << true;
+    QTest::newRow("in the corner") << QPoint(0, 1) << false;
+    QTest::newRow("just above it") << QPoint(300, 149) << false;
+    QTest::newRow("just below it") << QPoint(300, 250) << false;
+    // The canvas itself, whose press all others are to equal.
+    QTest::newRow("on the bare canvas") << QPoint(390, 240) << false;
+}
+
+void tst_ScreenContainer::pressBesideTheScreenLeavesTheItems()
+{
+    QFETCH(QPoint, position);
+    QFETCH(bool, isRightButton);
+    SelectedItem view({600, 400}, {200, 100});
+    QVERIFY(view.isShown());
+    QVERIFY(view.item->isSelected());
+    view.press(position, isRightButton ? Qt::RightButton : Qt::LeftButton);
+    QCOMPARE(view.lines, QStringList({"deactivate all", "show none"}));
+    QVERIFY(view.screen->selection().isEmpty());
+    QVERIFY(!view.item->isSelected());
+    QVERIFY(!view.selectedWhenShown);
+}
+
+void tst_ScreenContainer::otherPressesLeaveTheSelection_data()
+{
+    QTest::addColumn<QSize>("viewSize");
+    QTest::addColumn<bool>("renders");
+    QTest::addColumn<QPoint>("position");
+    const QSize view(600, 400);
+    QTest::newRow("on the item") << view << false << QPoint(230, 165);
+    QTest::newRow("on the item in render mode") << view << true << QPoint(230, 165);
+    QTest::newRow("on the vertical bar") << QSize(150, 80) << false << QPoint(147, 30);
+    QTest::newRow("on the horizontal bar") << QSize(150, 80) << false << QPoint(30, 77);
+    QTest::newRow("between the bars") << QSize(150, 80) << false << QPoint(147, 77);
+}
+
+void tst_ScreenContainer::otherPressesLeaveTheSelection()
+{
+    QFETCH(QSize, viewSize);
+    QFETCH(bool, renders);
+    QFETCH(QPoint, position);
+    SelectedItem view(viewSize, {200, 100});
+    QVERIFY(view.isShown());
+    if (renders)
+        view.screen->goToRenderMode();
+    view.press(position);
+    QCOMPARE(view.screen->selection(), QList<ScreenItem *>{view.item});
+    QVERIFY(!view.lines.contains("show none"));
+}
+
+void tst_ScreenContainer::pressWithoutAScreenDoesNothing()
+{
+    View view({600, 400}, {200, 100});
+    QVERIFY(view.isShown());
+    delete view.screen;
+    QTest::mouseClick(view.container.windowHandle(), Qt::LeftButton, {}, {300, 200});
 }
 
 BOARDWRIGHT_TEST_MAIN(tst_ScreenContainer)

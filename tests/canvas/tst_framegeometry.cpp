@@ -22,6 +22,8 @@ private slots:
     void clampsSize_data();
     void clampsSize();
     void clampsClampedSizeNoFurther();
+    void tellsWhatLiesOnTheBoard_data();
+    void tellsWhatLiesOnTheBoard();
     void keepsGroupOnBoard_data();
     void keepsGroupOnBoard();
     void dragsSide_data();
@@ -153,6 +155,29 @@ void tst_FrameGeometry::clampsClampedSizeNoFurther()
             QCOMPARE(FrameGeometry::clampedSize(QRect(QPoint(x, 70), once), board), once);
         }
     }
+}
+
+void tst_FrameGeometry::tellsWhatLiesOnTheBoard_data()
+{
+    QTest::addColumn<QRect>("frame");
+    QTest::addColumn<bool>("liesOnBoard");
+    QTest::newRow("inside") << QRect(10, 20, 100, 50) << true;
+    QTest::newRow("the whole board") << QRect(QPoint(0, 0), board) << true;
+    QTest::newRow("taller than the room beside it") << QRect(650, 50, 50, 300) << true;
+    QTest::newRow("nothing in a corner") << QRect(board.width(), board.height(), 0, 0) << true;
+    QTest::newRow("left") << QRect(-1, 20, 100, 50) << false;
+    QTest::newRow("above") << QRect(10, -1, 100, 50) << false;
+    QTest::newRow("right") << QRect(701, 20, 100, 50) << false;
+    QTest::newRow("below") << QRect(10, 351, 100, 50) << false;
+    QTest::newRow("no width left") << QRect(10, 20, -1, 50) << false;
+    QTest::newRow("no height left") << QRect(10, 20, 100, -1) << false;
+    QTest::newRow("as far as there is") << QRect(16777215, 16777215, 16777215, 16777215) << false;
+}
+
+void tst_FrameGeometry::tellsWhatLiesOnTheBoard()
+{
+    QFETCH(QRect, frame);
+    QTEST(FrameGeometry::liesOnScreen(frame, board), "liesOnBoard");
 }
 
 void tst_FrameGeometry::keepsGroupOnBoard_data()

@@ -37,6 +37,9 @@ private slots:
     void deletesTheFrameAndTheSelection();
     void deletesTheFrameItselfLast();
     void deletesTheFrameAlone();
+    void showsTheSettingsOfWhatIsSelected_data();
+    void showsTheSettingsOfWhatIsSelected();
+    void ignoredPasteShowsNothingElse();
     void movesLayers_data();
     void movesLayers();
     void ignoresFramesThatAreNotListed();
@@ -329,6 +332,64 @@ void tst_ScreenCommands::deletesTheFrameAlone()
     command(board.item("B"), "deleteSlot");
     deleteScheduled();
     QCOMPARE(board.layers(), QStringList({"A", "C", "D"}));
+}
+
+void tst_ScreenCommands::showsTheSettingsOfWhatIsSelected_data()
+{
+    QTest::addColumn<QStringList>("selected");
+    QTest::addColumn<QString>("commandName");
+    QTest::addColumn<QString>("shown");
+    QTest::newRow("one pasted") << QStringList("B") << "paste"
+                                << "B";
+    QTest::newRow("two pasted") << QStringList({"B", "C"}) << "paste" << QString();
+    QTest::newRow("one duplicated") << QStringList("B") << "duplicate"
+                                    << "B duplicate";
+    QTest::newRow("two duplicated") << QStringList({"B", "C"}) << "duplicate" << QString();
+    QTest::newRow("none duplicated") << QStringList() << "duplicate" << QString();
+    QTest::newRow("all of four") << QStringList("B") << "all" << QString();
+    QTest::newRow("all of one") << QStringList() << "all of one"
+                                << "B";
+    QTest::newRow("all of none") << QStringList() << "all of none" << QString();
+}
+
+void tst_ScreenCommands::showsTheSettingsOfWhatIsSelected()
+{
+    QFETCH(QStringList, selected);
+    QFETCH(QString, commandName);
+    QFETCH(QString, shown);
+    Board board;
+    board.select(selected);
+    board.copyShortcutActivated();
+    if (commandName.startsWith("all of"))
+        qDeleteAll(QList<ScreenItem *>(board.items()).mid(commandName == "all of one" ? 1 : 0));
+    if (commandName == "all of one")
+        board.items().first()->setMyName("B");
+    QList<ScreenItem *> told;
+    connect(&board, &Screen::showSettingsFor, this, [&told](ScreenItem *item) { told.append(item); });
+    int activations = 0;
+    connect(&board, &Screen::deactivateFor, this, [&activations] { ++activations; });
+    if (commandName == "paste")
+        board.pasteShortcutActivated();
+    else if (commandName == "duplicate")
+        command(board.items().last(), "duplicateSlot");
+    else
+        board.selectAllShortcutActivated();
+    QCOMPARE(told.size(), 1);
+    QCOMPARE(told.first() ? told.first()->name() : QString(), shown);
+    QCOMPARE(told.first(), board.selection().size() == 1 ? board.selection().first() : nullptr);
+    QCOMPARE(activations, 0);
+}
+
+void tst_ScreenCommands::ignoredPasteShowsNothingElse()
+{
+    Board board;
+    board.select({"B"});
+    int told = 0;
+    connect(&board, &Screen::showSettingsFor, this, [&told] { ++told; });
+    board.pasteShortcutActivated();
+    putOnClipboard("Screen/ItemsJson", "no JSON");
+    board.pasteShortcutActivated();
+    QCOMPARE(told, 0);
 }
 
 void tst_ScreenCommands::movesLayers_data()

@@ -3,6 +3,7 @@
 #include "canvas/editmodeborderrenderer.h"
 #include "canvas/screen.h"
 
+#include "tests/support/boards.h"
 #include "tests/support/strictmain.h"
 
 #include <QJsonObject>
@@ -121,6 +122,7 @@ private slots:
     void answersEmptyWithoutContent();
     void setValueMarksLayoutModified();
     void buildsPanelOfContent();
+    void anotherNameMarksTheLayoutModified();
     void writesNameAndContent();
     void writesNameWithoutContent();
     void readsNameAndContent();
@@ -418,6 +420,17 @@ void tst_ScreenItem::buildsPanelOfContent()
     m_frame->buildSettingsPanel(&host);
     QCOMPARE(content()->panelHost, &host);
     ScreenItem(nullptr).buildSettingsPanel(&host);
+}
+
+void tst_ScreenItem::anotherNameMarksTheLayoutModified()
+{
+    m_screen->loadLayout(board({shapeObject("Loaded", QRect(10, 20, 100, 50))}));
+    ScreenItem *frame = m_screen->items().first();
+    frame->setMyName("Loaded");
+    QVERIFY(!m_screen->isModified());
+    frame->setMyName("Other");
+    QCOMPARE(frame->name(), QString("Other"));
+    QVERIFY(m_screen->isModified());
 }
 
 void tst_ScreenItem::writesNameAndContent()

@@ -1,3 +1,4 @@
+#include "canvas/itemclipboard.h"
 #include "canvas/screen.h"
 #include "canvas/screenitem.h"
 
@@ -44,6 +45,20 @@ QList<QRect> toldGeometries(const QSignalSpy &spy)
         result.append(call.first().toRect());
     return result;
 }
+
+QRect valuesOf(ScreenItem &frame)
+{
+    const QMap<QString, QVariant> values = frame.getValues();
+    return {values["X"].toInt(), values["Y"].toInt(), values["W"].toInt(), values["H"].toInt()};
+}
+
+QList<QRect> geometriesIn(const QJsonArray &items)
+{
+    QList<QRect> result;
+    for (const QJsonValue &item : items)
+        result.append({item["X"].toInt(), item["Y"].toInt(), item["W"].toInt(), item["H"].toInt()});
+    return result;
+}
 } // namespace
 
 class tst_ScreenItemKeys : public QObject
@@ -68,6 +83,11 @@ private slots:
     void otherKeysLeaveTheGeometry();
     void everyKeyTellsMembersTheFocusedGeometry_data();
     void everyKeyTellsMembersTheFocusedGeometry();
+    void anyKeyLeavesWhatIsDrawnToBeSavedAndCopied_data();
+    void anyKeyLeavesWhatIsDrawnToBeSavedAndCopied();
+    void contentsHearOfTheFocusedGeometryFirst();
+    void framesMayGoWhileAKeyIsTold_data();
+    void framesMayGoWhileAKeyIsTold();
     void keysActOnTheSelectionNotTheFocusedFrame();
     void keysMarkLayoutModified();
     void deleteRemovesFocusedFrame();
@@ -250,7 +270,80 @@ void tst_ScreenItemKeys::everyKeyTellsMembersTheFocusedGeometry()
     m_board->type(key, modifiers);
     QTEST(toldGeometries(firstSpy), "toldByFirst");
     QTEST(toldGeometries(secondSpy), "toldBySecond");
-    QCOMPARE(m_second->getValue("X").toInt(), m_first->x());
+    QCOMPARE(valuesOf(*m_first), m_first->geometry());
+    QCOMPARE(valuesOf(*m_second), m_second->geometry());
+}
+
+void tst_ScreenItemKeys::anyKeyLeavesWhatIsDrawnToBeSavedAndCopied_data()
+{
+    QTest::addColumn<Qt::Key>("key");
+    QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
+    QTest::newRow("a nudge") << Qt::Key_Right << Qt::KeyboardModifiers(Qt::ControlModifier);
+    QTest::newRow("growth") << Qt::Key_Down << Qt::KeyboardModifiers(Qt::ShiftModifier);
+    QTest::newRow("a letter") << Qt::Key_K << Qt::KeyboardModifiers();
+    QTest::newRow("a modifier alone") << Qt::Key_Control << Qt::KeyboardModifiers();
+}
+
+void tst_ScreenItemKeys::anyKeyLeavesWhatIsDrawnToBeSavedAndCopied()
+{
+    QFETCH(Qt::Key, key);
+    QFETCH(Qt::KeyboardModifiers, modifiers);
+    m_board->addShape(QRect(500, 20, 60, 70))->select();
+    m_first->setFocus();
+    m_board->type(key, modifiers);
+    const QList<QRect> drawn = geometries(m_screen->items());
+    const QJsonObject saved = m_screen->saveLayout();
+    QCOMPARE(geometriesIn(saved["items"].toArray()), drawn);
+    m_screen->copyShortcutActivated();
+    QCOMPARE(geometriesIn(ItemClipboard::items()), drawn);
+    m_screen->loadLayout(saved);
+    QCOMPARE(geometries(m_screen->items()), drawn);
+}
+
+void tst_ScreenItemKeys::contentsHearOfTheFocusedGeometryFirst()
+{
+    const QSignalSpy values(m_second, &ScreenItem::valueChanged);
+    m_board->type(Qt::Key_K);
+    QList<int> xs;
+    for (const QList<QVariant> &change : values) {
+        if (change.at(0) == "X")
+            xs.append(change.at(1).value<QVariant>().toInt());
+    }
+    QCOMPARE(xs, (QList<int>{first.x(), second.x()}));
+}
+
+void tst_ScreenItemKeys::framesMayGoWhileAKeyIsTold_data()
+{
+    QTest::addColumn<bool>("focusedGoes");
+    QTest::addColumn<Qt::Key>("key");
+    QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
+    for (const bool focusedGoes : {false, true}) {
+        const auto row = [focusedGoes](const char *what, Qt::Key key, Qt::KeyboardModifiers modifiers) {
+            QTest::addRow("%s, the %s one goes", what, focusedGoes ? "focused" : "other")
+                << focusedGoes << key << modifiers;
+        };
+        row("a letter", Qt::Key_K, Qt::NoModifier);
+        row("a nudge", Qt::Key_Right, Qt::ControlModifier);
+        row("growth", Qt::Key_Right, Qt::ShiftModifier);
+    }
+}
+
+void tst_ScreenItemKeys::framesMayGoWhileAKeyIsTold()
+{
+    QFETCH(bool, focusedGoes);
+    QFETCH(Qt::Key, key);
+    QFETCH(Qt::KeyboardModifiers, modifiers);
+    ScreenItem *third = m_board->addShape(QRect(500, 20, 60, 70));
+    third->select();
+    m_first->setFocus();
+    const QPointer<ScreenItem> goes = focusedGoes ? m_first : third;
+    // The second is the first of the selection that is told.
+    connect(m_second, &ScreenItem::newGeometry, this, [goes] { delete goes; });
+    QKeyEvent press(QEvent::KeyPress, key, modifiers);
+    QCoreApplication::sendEvent(m_first, &press);
+    QVERIFY(goes.isNull());
+    QCOMPARE(m_screen->items().size(), 2);
+    QCOMPARE(m_screen->selection().size(), 2);
 }
 
 void tst_ScreenItemKeys::keysActOnTheSelectionNotTheFocusedFrame()

@@ -354,7 +354,10 @@ void tst_ScreenLayout::readsParametersOfAnyKind_data()
     QTest::newRow("one length") << QJsonValue(QJsonObject({{"Height", 64}})) << QSize(0, 64);
     QTest::newRow("text for a number") << width("800") << QSize(0, 64);
     QTest::newRow("whole real") << width(800.0) << QSize(800, 64);
+    QTest::newRow("real") << width(800.5) << QSize(801, 64);
+    QTest::newRow("truth for a number") << width(true) << QSize(0, 64);
     QTest::newRow("negative") << width(-1) << QSize(0, 64);
+    QTest::newRow("negative real") << width(-0.6) << QSize(0, 64);
     QTest::newRow("a billion") << width(1e9) << QSize(16777215, 64);
     QTest::newRow("beyond any integer") << width(1e308) << QSize(0, 64);
     QTest::newRow("object") << width(QJsonObject()) << QSize(0, 64);

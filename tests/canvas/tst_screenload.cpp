@@ -1,6 +1,7 @@
 #include "canvas/itemclipboard.h"
 #include "canvas/screen.h"
 #include "canvas/screenitem.h"
+#include "model/pixels.h"
 #include "tests/canvas/shownscreen.h"
 #include "tests/support/boards.h"
 #include "tests/support/strictmain.h"
@@ -116,6 +117,10 @@ void addByTheLetter(Screen &screen, QJsonObject object)
     for (const auto &definition : definitions)
         content->setValue(definition.first, object.value(definition.first).toVariant());
     content->anyValueChanged();
+    const auto pixels = [&object](const char *key) {
+        return toPixels(object.value(QLatin1String(key)).toVariant());
+    };
+    item->placeAsStored({pixels("X"), pixels("Y"), pixels("W"), pixels("H")});
 }
 
 void loadByTheLetter(Screen &screen, const QJsonArray &items, const QSize &size)

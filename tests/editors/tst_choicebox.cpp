@@ -1,6 +1,7 @@
 #include "editors/choicebox.h"
 
 #include "tests/support/strictmain.h"
+#include "tests/support/wheel.h"
 
 #include <QAbstractItemView>
 #include <QLineEdit>
@@ -45,6 +46,7 @@ class tst_ChoiceBox : public QObject
 private slots:
     void listShowsWhichChoiceIsTheCurrentOne();
     void showsThatItHasTheFocus();
+    void changesByWheelWithTheFocusAlone();
 };
 
 void tst_ChoiceBox::listShowsWhichChoiceIsTheCurrentOne()
@@ -71,6 +73,19 @@ void tst_ChoiceBox::showsThatItHasTheFocus()
     QVERIFY(shown.box->grab().toImage() != without);
     shown.line->setFocus();
     QCOMPARE(shown.box->grab().toImage(), without);
+}
+
+void tst_ChoiceBox::changesByWheelWithTheFocusAlone()
+{
+    const ShownBox shown;
+    QVERIFY(QTest::qWaitForWindowActive(shown.window.windowHandle()));
+    shown.line->setFocus();
+    turnWheel(shown.box, false);
+    QVERIFY(!shown.box->hasFocus());
+    QCOMPARE(shown.box->currentIndex(), 0);
+    shown.box->setFocus();
+    turnWheel(shown.box, false);
+    QCOMPARE(shown.box->currentIndex(), 1);
 }
 
 BOARDWRIGHT_TEST_MAIN(tst_ChoiceBox)

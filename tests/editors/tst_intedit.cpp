@@ -3,6 +3,7 @@
 #include "tests/editors/editlog.h"
 #include "tests/support/eventcounter.h"
 #include "tests/support/strictmain.h"
+#include "tests/support/wheel.h"
 
 #include <QAccessible>
 #include <QHBoxLayout>
@@ -10,7 +11,6 @@
 #include <QLineEdit>
 #include <QSpinBox>
 #include <QStyleOptionSpinBox>
-#include <QWheelEvent>
 
 namespace
 {
@@ -70,7 +70,7 @@ private slots:
     void stepsByKeys_data();
     void stepsByKeys();
     void stepsByArrows();
-    void stepsByWheel();
+    void stepsByWheelWithTheFocusAlone();
     void stepsOnWhileArrowIsHeld();
     void staysSilentWhenTypedValueIsTheShownOne();
 
@@ -83,7 +83,12 @@ private slots:
     void asksAfreshAtEachEdit();
     void tellsTypedValueThatNewLimitClamps();
     void tellsOnceWhenLimitsCross();
-    void refusesDigitsBeyondLimit();
+    void tellsNumberBeyondLimitAtTheEnd_data();
+    void tellsNumberBeyondLimitAtTheEnd();
+    void tellsNothingWhenTheLimitIsShownAlready();
+    void asksForLimitsWhenItGetsTheFocus();
+    void getsFreshLimitsAfterAnEarlierEdit();
+    void keepsShownValueBeyondLimits();
     void startsWithGivenMinimumInSilence();
 
     void hasFocusInItsSpinBox();
@@ -287,15 +292,18 @@ void tst_IntEdit::stepsByArrows()
     QCOMPARE(log.takeEdits(), QStringList("valueEdited X int 5"));
 }
 
-void tst_IntEdit::stepsByWheel()
+void tst_IntEdit::stepsByWheelWithTheFocusAlone()
 {
     Shown shown;
     EditLog log(&shown.edit);
-    const QPoint place = shown.spinBox->rect().center();
-    QWheelEvent wheel(place, shown.spinBox->mapToGlobal(place), {}, {0, 120}, Qt::NoButton, Qt::NoModifier,
-                      Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(shown.spinBox, &wheel);
+    QVERIFY(QTest::qWaitForWindowActive(&shown.edit));
+    shown.spinBox->setFocus();
+    turnWheel(shown.spinBox, true);
     QCOMPARE(log.takeEdits(), QStringList("valueEdited X int 6"));
+    shown.spinBox->clearFocus();
+    turnWheel(shown.spinBox, true);
+    QVERIFY(!shown.spinBox->hasFocus());
+    QCOMPARE(log.takeEdits(), QStringList());
 }
 
 void tst_IntEdit::stepsOnWhileArrowIsHeld()
@@ -427,14 +435,94 @@ void tst_IntEdit::tellsOnceWhenLimitsCross()
     QCOMPARE(shown.edit.getValue(), QVariant(0));
 }
 
-void tst_IntEdit::refusesDigitsBeyondLimit()
+void tst_IntEdit::tellsNumberBeyondLimitAtTheEnd_data()
 {
+    QTest::addColumn<bool>("isReturn");
+    QTest::newRow("return") << true;
+    QTest::newRow("another widget gets the focus") << false;
+}
+
+void tst_IntEdit::tellsNumberBeyondLimitAtTheEnd()
+{
+    QFETCH(bool, isReturn);
     Shown shown;
     EditLog log(&shown.edit);
     log.maximum = 600;
+    QVERIFY(QTest::qWaitForWindowActive(&shown.edit));
+    shown.spinBox->setFocus();
     shown.type("700");
     QCOMPARE(log.takeEdits(), QStringList({"valueEdited X int 7", "valueEdited X int 70"}));
     QCOMPARE(shown.edit.getValue(), QVariant(70));
+    QCOMPARE(shown.spinBox->text(), QString("700"));
+    if (isReturn)
+        QTest::keyClick(shown.spinBox, Qt::Key_Return);
+    else
+        shown.spinBox->clearFocus();
+    QCOMPARE(log.takeEdits(), QStringList("valueEdited X int 600"));
+    QCOMPARE(shown.spinBox->text(), QString("600"));
+}
+
+void tst_IntEdit::tellsNothingWhenTheLimitIsShownAlready()
+{
+    Shown shown;
+    EditLog log(&shown.edit);
+    log.maximum = 5;
+    QVERIFY(QTest::qWaitForWindowActive(&shown.edit));
+    shown.spinBox->setFocus();
+    shown.type("90");
+    shown.spinBox->clearFocus();
+    QCOMPARE(log.takeEdits(), QStringList());
+    QCOMPARE(shown.spinBox->text(), QString("5"));
+}
+
+void tst_IntEdit::asksForLimitsWhenItGetsTheFocus()
+{
+    Shown shown;
+    QVERIFY(QTest::qWaitForWindowActive(&shown.edit));
+    shown.spinBox->clearFocus();
+    EditLog log(&shown.edit);
+    log.minimum = 0;
+    log.maximum = 42;
+    shown.spinBox->setFocus();
+    QCOMPARE(log.takeLines(), QStringList({"getMax X", "getMin X"}));
+    // The range is that of the last edit, and of this one once a value is told.
+    QCOMPARE(shown.spinBox->maximum(), widestLimit);
+    QTest::keyClick(shown.spinBox, Qt::Key_End);
+    QTest::keyClicks(shown.spinBox, "9");
+    QCOMPARE(log.takeLines(), QStringList());
+    QTest::keyClick(shown.spinBox, Qt::Key_Return);
+    QCOMPARE(log.takeEdits(), QStringList("valueEdited X int 42"));
+}
+
+void tst_IntEdit::getsFreshLimitsAfterAnEarlierEdit()
+{
+    Shown shown;
+    EditLog log(&shown.edit);
+    log.minimum = 0;
+    log.maximum = 600;
+    shown.type("8");
+    log.maximum = 860;
+    QVERIFY(QTest::qWaitForWindowActive(&shown.edit));
+    shown.spinBox->setFocus();
+    shown.spinBox->selectAll();
+    log.takeLines();
+    shown.spinBox->findChild<QLineEdit *>()->insert("700");
+    QCOMPARE(log.takeEdits(), QStringList("valueEdited X int 700"));
+}
+
+void tst_IntEdit::keepsShownValueBeyondLimits()
+{
+    Shown shown;
+    shown.edit.setValue("X", -20);
+    EditLog log(&shown.edit);
+    log.minimum = 0;
+    log.maximum = 600;
+    QVERIFY(QTest::qWaitForWindowActive(&shown.edit));
+    shown.spinBox->clearFocus();
+    shown.spinBox->setFocus();
+    shown.spinBox->clearFocus();
+    QCOMPARE(log.takeEdits(), QStringList());
+    QCOMPARE(shown.spinBox->text(), QString("-20"));
 }
 
 void tst_IntEdit::startsWithGivenMinimumInSilence()

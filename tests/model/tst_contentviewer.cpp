@@ -15,6 +15,7 @@
 #include <QSignalSpy>
 
 #include <cstring>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -76,8 +77,16 @@ public:
         wasParent = content->parentWidget() == this;
     }
     void contentEdited() override {}
+    void placeAsStored(const QRect &stored) override
+    {
+        places << stored;
+        if (whenPlaced)
+            whenPlaced();
+    }
 
     QList<ContentViewer *> given;
+    QList<QRect> places;
+    std::function<void()> whenPlaced;
     bool wasParent = false;
 };
 
@@ -149,6 +158,8 @@ private slots:
     void writesAMissingValueAsNullAndAddsIt();
     void readsDefinitionsInOrderThenAppliesOnce();
     void readsAMissingKeyAsAnInvalidValue();
+    void tellsTheHostWhereItWasStored();
+    void tellsNoPlaceWithoutGeometryValues();
     void skipsADefinitionThatTheMapLacks();
     void ignoresTypeAndUndefinedKeys();
     void readsValuesByTheirJsonType_data();
@@ -486,6 +497,24 @@ void tst_ContentViewer::readsAMissingKeyAsAnInvalidValue()
         QVERIFY(!m_sample->getValue(key).isValid());
     }
     QCOMPARE(m_host->geometry(), QRect(0, 9, 0, 0));
+}
+
+void tst_ContentViewer::tellsTheHostWhereItWasStored()
+{
+    QStringList callsBefore;
+    m_host->whenPlaced = [&] {
+        callsBefore = m_sample->calls;
+    };
+    QVERIFY(m_sample->fromJson({{"X", 649.5}, {"Y", -3}, {"W", "50"}, {"Note", "n"}}));
+    QCOMPARE(m_host->places, QList<QRect>{QRect(650, -3, 50, 0)});
+    QCOMPARE(callsBefore, m_sample->calls);
+}
+
+void tst_ContentViewer::tellsNoPlaceWithoutGeometryValues()
+{
+    m_sample->setValues({{"X", 1}, {"Y", 2}, {"W", 3}, {"Note", "n"}});
+    QVERIFY(!m_sample->fromJson({{"X", 5}, {"Y", 6}, {"W", 7}, {"H", 8}}));
+    QVERIFY(m_host->places.isEmpty());
 }
 
 void tst_ContentViewer::skipsADefinitionThatTheMapLacks()

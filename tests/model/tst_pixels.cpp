@@ -13,6 +13,8 @@ private slots:
     void readsAnyValueAsWholePixels_data();
     void readsAnyValueAsWholePixels();
     void cannotOverflowASumOfThree();
+    void readsWholeNumbers_data();
+    void readsWholeNumbers();
 };
 
 void tst_Pixels::readsAnyValueAsWholePixels_data()
@@ -56,6 +58,34 @@ void tst_Pixels::cannotOverflowASumOfThree()
 {
     QCOMPARE(maximumPixels, (1 << 24) - 1);
     QVERIFY(3 * qint64(maximumPixels) < std::numeric_limits<int>::max());
+}
+
+void tst_Pixels::readsWholeNumbers_data()
+{
+    QTest::addColumn<QJsonValue>("value");
+    QTest::addColumn<int>("number");
+    QTest::newRow("whole") << QJsonValue(800) << 800;
+    QTest::newRow("whole real") << QJsonValue(800.0) << 800;
+    QTest::newRow("a half") << QJsonValue(800.5) << 801;
+    QTest::newRow("below a half") << QJsonValue(800.49) << 800;
+    QTest::newRow("almost nothing") << QJsonValue(0.4) << 0;
+    QTest::newRow("negative") << QJsonValue(-7) << -7;
+    QTest::newRow("negative fraction") << QJsonValue(-7.6) << -8;
+    QTest::newRow("a billion") << QJsonValue(1e9) << 1000000000;
+    QTest::newRow("a billion and a half") << QJsonValue(1e9 + 0.5) << 1000000001;
+    QTest::newRow("beyond any integer") << QJsonValue(1e10) << 0;
+    QTest::newRow("a fraction beyond any integer") << QJsonValue(1e10 + 0.5) << 0;
+    QTest::newRow("1e308") << QJsonValue(1e308) << 0;
+    QTest::newRow("text") << QJsonValue("800") << 0;
+    QTest::newRow("true") << QJsonValue(true) << 0;
+    QTest::newRow("null") << QJsonValue() << 0;
+    QTest::newRow("missing") << QJsonValue(QJsonValue::Undefined) << 0;
+}
+
+void tst_Pixels::readsWholeNumbers()
+{
+    QFETCH(QJsonValue, value);
+    QTEST(wholeNumber(value), "number");
 }
 
 QTEST_APPLESS_MAIN(tst_Pixels)

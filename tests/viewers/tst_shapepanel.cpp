@@ -380,7 +380,13 @@ void tst_ShapePanel::lineWidthRunsFromZeroUpwards()
     QTest::keyClick(spinBox, Qt::Key_PageDown);
     QCOMPARE(open.item->getValue("Line Width"), QVariant(0));
     open.type("Line Width", "-5");
+    QCOMPARE(open.item->getValue("Line Width"), QVariant(0));
+    open.type("Line Width", "5");
     QCOMPARE(open.item->getValue("Line Width"), QVariant(5));
+    open.type("Line Width", "-5");
+    QCOMPARE(open.item->getValue("Line Width"), QVariant(5));
+    QTest::keyClick(spinBox, Qt::Key_Return);
+    QCOMPARE(open.item->getValue("Line Width"), QVariant(0));
     QVERIFY(!open.item->getMinValue("Line Width").isValid());
 }
 

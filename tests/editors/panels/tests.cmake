@@ -1,2 +1,3 @@
+boardwright_add_test(editors/panels/tst_panelboxes LINK boardwright_panels)
 boardwright_add_test(editors/panels/tst_screensettings LINK boardwright_panels)
 boardwright_add_test(editors/panels/tst_settingseditor LINK boardwright_panels)

@@ -6,6 +6,7 @@
 #include "tests/editors/coloranswers.h"
 #include "tests/support/boards.h"
 #include "tests/support/strictmain.h"
+#include "tests/support/wheel.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -33,6 +34,8 @@ private slots:
     void typedLengthIsAppliedAtOnce();
     void stepIsAppliedAtOnce_data();
     void stepIsAppliedAtOnce();
+    void wheelStepsTheLengthWithTheFocusAlone_data();
+    void wheelStepsTheLengthWithTheFocusAlone();
     void lengthsOutOfRangeCannotBeEntered_data();
     void lengthsOutOfRangeCannotBeEntered();
     void chosenColourIsPaintedAtOnce();
@@ -241,6 +244,28 @@ void tst_ScreenSettings::stepIsAppliedAtOnce()
     QCOMPARE(bar.length(name), before + 1);
     QTest::keyClick(bar.box(name), Qt::Key_PageDown);
     QCOMPARE(bar.length(name), before - 9);
+}
+
+void tst_ScreenSettings::wheelStepsTheLengthWithTheFocusAlone_data()
+{
+    addLengths();
+}
+
+void tst_ScreenSettings::wheelStepsTheLengthWithTheFocusAlone()
+{
+    QFETCH(QString, name);
+
+    Bar bar;
+    QVERIFY(bar.ready);
+    bar.neighbour.setFocus();
+    const QSize before = bar.screen.size();
+    turnWheel(bar.box(name), true);
+    QVERIFY(bar.neighbour.hasFocus());
+    QCOMPARE(bar.screen.size(), before);
+    bar.box(name)->setFocus();
+    const int length = bar.length(name);
+    turnWheel(bar.box(name), true);
+    QCOMPARE(bar.length(name), length + 1);
 }
 
 void tst_ScreenSettings::lengthsOutOfRangeCannotBeEntered_data()

@@ -40,6 +40,7 @@ private slots:
     void itemThatComesBackGetsAPanelOfItsValuesNow();
     void frameWithoutContentShowsItsName();
     void typingRenamesTheItemAtEveryKeystroke();
+    void typedNameMarksTheLayoutModified();
     void formerItemKeepsItsName();
     void editReachesTheItemAtOnce();
     void moveOnTheCanvasShowsInTheEditors();
@@ -346,6 +347,19 @@ void tst_SettingsEditor::typingRenamesTheItemAtEveryKeystroke()
     QTest::keyClick(name, Qt::Key_A, Qt::ControlModifier);
     QTest::keyClick(name, Qt::Key_Delete);
     QCOMPARE(item->name(), QString());
+}
+
+void tst_SettingsEditor::typedNameMarksTheLayoutModified()
+{
+    Desk desk;
+    QVERIFY(desk.ready);
+    desk.screen.loadLayout(board({shapeObject("Loaded", {10, 20, 100, 50})}));
+    desk.screen.items().first()->activate();
+    QVERIFY(!desk.screen.isModified());
+    QTest::keyClick(desk.ofNameRow<QLineEdit>(), Qt::Key_Left);
+    QVERIFY(!desk.screen.isModified());
+    QTest::keyClick(desk.ofNameRow<QLineEdit>(), Qt::Key_S);
+    QVERIFY(desk.screen.isModified());
 }
 
 void tst_SettingsEditor::formerItemKeepsItsName()
