@@ -9,6 +9,7 @@
 #include "model/namedcolor.h"
 #include "model/pixels.h"
 #include "model/widgetgeometry.h"
+#include "pictures/itemgeometry.h"
 #include "viewers/contentfactory.h"
 #include "viewers/mediaviewer.h"
 
@@ -26,8 +27,6 @@
 
 namespace
 {
-constexpr QSize newItemSize(100, 50);
-
 /// Beyond one moved frame in this many, one whole paint is cheaper than many small ones.
 constexpr int framesPerMove = 15;
 
@@ -262,7 +261,7 @@ ScreenItem *Screen::createItem(const QJsonObject &object)
     if (isFull() || !isReadable(object))
         return nullptr;
     auto *item = new ScreenItem(this);
-    resizeNow(item, newItemSize);
+    resizeNow(item, ItemGeometry::newItemSize);
     ContentFactory::create(object.value(Keys::type()).toString(), item)->show();
     item->show();
     QJsonObject remaining = object;
@@ -415,7 +414,7 @@ void Screen::newItem(QString name)
 ScreenItem *Screen::newFrame(QPoint position)
 {
     auto *item = new ScreenItem(this);
-    resizeNow(item, newItemSize);
+    resizeNow(item, ItemGeometry::newItemSize);
     moveNow(item, position);
     return item;
 }

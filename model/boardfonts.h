@@ -18,9 +18,9 @@ void clearVariables();
 void settle();
 
 /// The families that letters of the font with this name are asked for in, which is the name itself wherever
-/// that gives the same letters on every machine: those of the loaded font, or of its stand-in. Not so when the
-/// desktop has a font of the name, or when the name is no plain one. Characters that the font lacks are taken
-/// from fonts of the program, too.
+/// that gives the same letters on every machine: those of the loaded font, or of its stand-in. Not so when
+/// the desktop has a font of the name, or when the name is no plain one. Characters that the font lacks are
+/// taken from fonts of the program, too.
 QStringList shownFamilies(const QString &name);
 
 /// The height of letters of this size in points: a point is 1/72 inch, and a board has 96 pixels to the inch.

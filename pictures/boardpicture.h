@@ -10,8 +10,8 @@ namespace BoardPicture
 /// The size of the layout's screen in pixels.
 QSize sizeOf(const QJsonObject &layout);
 
-/// False for sizes that no picture can have: the painter's coordinates end there, or it would take more than a
-/// gigabyte.
+/// False for sizes that no picture can have: the painter's coordinates end there, or it would take more than
+/// a gigabyte.
 bool isPaintable(QSize size);
 
 /// An image for a board of this background colour, translucent where that is, and otherwise undefined so far.
