@@ -17,6 +17,27 @@ constexpr QSize canvasSize(800, 400);
 /// So large that hardly any item lies over another, however many there are.
 constexpr QSize wideCanvas(7680, 2160);
 
+/// Just as much as is shown whole: cells of tables are dearer than anything else.
+constexpr int dearestCells = 4000;
+constexpr int longestText = 16 * 1024;  // characters
+constexpr int lengthOfHtml = 64 * 1024; // characters
+
+QString textToShow(bool isPlain)
+{
+    const QString word = QStringLiteral("word ");
+    const QString html = isPlain
+                             ? word.repeated(longestText / word.size())
+                             : QStringLiteral("<table><tr>") + QStringLiteral("<td>x").repeated(dearestCells);
+    return html + QStringLiteral("<!--%1-->").arg(QString(lengthOfHtml - html.size(), QLatin1Char(' ')));
+}
+
+QJsonObject layoutOf(const QString &html)
+{
+    QJsonObject item = BenchBoard::items(1, canvasSize, BenchBoard::Content::Texts).first().toObject();
+    item.insert(QStringLiteral("Text"), html);
+    return BenchBoard::layout(QJsonArray{item}, canvasSize);
+}
+
 ScreenItem &openPicture(Session &session)
 {
     session.open();
@@ -54,6 +75,17 @@ void editText(int items, int)
     click(item);
     settle();
     report("opening", cpuOfUndone(100, open, close));
+}
+
+void showText(int isPlain, int)
+{
+    Session session(layoutOf(textToShow(isPlain != 0)));
+    report("cpu", cpuPerTurn(5, [&session](int) {
+               session.open();
+               settle();
+           }));
+    if (session.screen().items().first()->findChild<QTextEdit *>()->toPlainText().size() < dearestCells)
+        qFatal("the text is not shown whole");
 }
 
 void paintPicture(int, int)

@@ -6,6 +6,10 @@
 /// selected and its panel is open already, "opening".
 void editText(int items, int);
 
+/// Opens the dearest text of 64 KiB of HTML that is shown whole, or plain text of the same length; reports
+/// "cpu" for each time, to painted.
+void showText(int isPlain, int);
+
 /// Repaints a picture that has not changed.
 void paintPicture(int, int);
 

@@ -127,6 +127,7 @@ int main(int argc, char *argv[])
                     {"switch", switchItems},
                     {"edit", editInSpinBox},
                     {"edit-text", editText},
+                    {"show-text", showText},
                     {"paint-picture", paintPicture},
                     {"read-picture", readPicture},
                     {"play", playMovies},

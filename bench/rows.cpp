@@ -166,6 +166,10 @@ void RowList::addTexts()
           edit("1", "cpu"), 1.2);
     ratio(3, QStringLiteral("the same, its panel open already"), edit("1000", "opening"),
           edit("1", "opening"), 0);
+    const auto show = [this](const char *isPlain) {
+        return inProcess("bench-product", {QStringLiteral("show-text"), QLatin1String(isPlain)});
+    };
+    ratio(3, QStringLiteral("show the dearest text of 64 KiB, against plain text"), show("0"), show("1"), 25);
 }
 
 void RowList::addSaving()

@@ -45,7 +45,7 @@ public:
     Screen *canvas() const;
 
     /// The layer name that the user sees.
-    QString name() const { return m_name; }
+    QString name() const override { return m_name; }
 
     bool isSelected() const { return m_selected; }
     bool isActive() const { return m_active; }

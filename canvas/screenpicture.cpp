@@ -26,30 +26,32 @@ bool isPaintable(QSize size)
 }
 
 /// One pixel of the picture for each of the screen; grab() would multiply them on a scaled desktop. Without
-/// the window's background, so that a translucent board looks alike in the editor and in a batch.
-QPixmap painted(Screen &screen)
+/// the window's background, so that a translucent board looks alike in the editor and in a batch. No pixmap
+/// either: on a display of few colours it would have no more than those.
+QImage painted(Screen &screen)
 {
-    QPixmap picture(screen.size());
+    const bool isOpaque = screen.backgroundColor().alpha() == 255;
+    QImage picture(screen.size(), isOpaque ? QImage::Format_RGB32 : QImage::Format_ARGB32_Premultiplied);
     if (picture.isNull())
         return picture;
-    if (screen.backgroundColor().alpha() < 255)
+    if (!isOpaque)
         picture.fill(Qt::transparent);
     screen.render(&picture, QPoint(), QRegion(), QWidget::DrawChildren | QWidget::IgnoreMask);
     return picture;
 }
 } // namespace
 
-QPixmap pictureOf(Screen &screen)
+QImage pictureOf(Screen &screen)
 {
     if (!isPaintable(screen.size()))
         return {};
     screen.goToRenderMode();
-    const QPixmap picture = painted(screen);
+    const QImage picture = painted(screen);
     screen.goOutRenderMode();
     return picture;
 }
 
-QString savePicture(const QPixmap &picture, const QString &path)
+QString savePicture(const QImage &picture, const QString &path)
 {
     const QByteArray format = QFileInfo(path).suffix().toLatin1().toLower();
     if (!QImageWriter::supportedImageFormats().contains(format))

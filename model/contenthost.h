@@ -1,10 +1,12 @@
 #pragma once
 
+#include <QString>
+
 class ContentViewer;
 class QRect;
 
-/// What a content needs to know of the frame that it is made in: that the frame takes it, hears of edits
-/// and is told where the item was stored.
+/// What a content needs to know of the frame that it is made in: that the frame takes it, hears of edits and is
+/// told where the item was stored, and what it is called.
 class ContentHost
 {
 public:
@@ -20,4 +22,7 @@ public:
     /// takes what lies wholly on it as it is; anything else stays as the values, set one by one, have made
     /// it.
     virtual void placeAsStored(const QRect &stored) = 0;
+
+    /// The item's name, for the log; empty when it has none.
+    virtual QString name() const { return QString(); }
 };

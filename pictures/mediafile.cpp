@@ -1,5 +1,7 @@
 #include "pictures/mediafile.h"
 
+#include "pictures/filecache.h"
+#include "pictures/mediaplan.h"
 #include "pictures/memoryclaim.h"
 
 #include <QBuffer>
@@ -7,69 +9,130 @@
 #include <QFileInfo>
 #include <QImageReader>
 
-#include <string_view>
-
 namespace
 {
-constexpr qint64 pieceBytes = 64 * 1024;
+/// A movie's file, for all who play it.
+struct MovieFile {
+    MediaPlan plan;
+    MemoryClaim claim; // of the bytes
+};
 
-/// Pipes and devices may never answer. Neither may those files of the system that claim to be regular ones
-/// and empty.
-bool open(QFile &file)
+using SharedMovie = std::shared_ptr<const MovieFile>;
+
+/// Lets a movie read its file, which stays as long as the movie.
+class MovieBuffer : public QBuffer
 {
-    const QFileInfo info(file.fileName());
-    return info.isFile() && info.size() > 0 &&
-           info.size() <= qMin(MediaFile::maximumBytes, MemoryClaim::left()) &&
-           file.open(QIODevice::ReadOnly);
+public:
+    MovieBuffer(SharedMovie file, QObject *parent) : QBuffer(parent), m_file(std::move(file))
+    {
+        setData(m_file->plan.bytes);
+        open(ReadOnly);
+    }
+
+    const MediaPlan &plan() const { return m_file->plan; }
+
+private:
+    SharedMovie m_file;
+};
+
+void note(QString *reason, const QString &text)
+{
+    if (reason && !text.isEmpty())
+        *reason = text;
 }
 
-/// The whole content. Memory for all that is asked for would be taken at once, whatever there is to read.
-QByteArray allOf(QIODevice &device)
+/// Why a file is not to be opened; empty for those that may be read, and for those that are none.
+QString refusalOf(const QFileInfo &info)
 {
-    return device.read(qMin(MediaFile::maximumBytes, device.size()));
+    if (info.exists() && !info.isFile() && !info.isDir())
+        return QStringLiteral("it is no regular file");
+    if (info.size() > MediaFile::maximumBytes)
+        return QStringLiteral("it has more than %1 bytes").arg(MediaFile::maximumBytes);
+    if (info.size() > MemoryClaim::left())
+        return QStringLiteral("its %1 bytes are more than all media have left").arg(info.size());
+    return {};
 }
 
-/// Drawings name other files and may take any time to draw; an icon may hold a picture of any size, whatever
-/// its own header says.
-bool isTrusted(const QByteArray &format)
+/// The whole content of a regular file. Pipes and devices may never answer. Neither may those files of the
+/// system that claim to be regular ones and empty.
+QByteArray bytesIn(const QString &path, QString *reason)
 {
-    return !format.startsWith("svg") && format != "ico" && format != "cur";
+    const QFileInfo info(FileStamp::isName(path) ? path : QString());
+    const QString refusal = refusalOf(info);
+    note(reason, refusal);
+    QFile file(path);
+    if (!refusal.isEmpty() || !info.isFile() || info.size() <= 0 || !file.open(QIODevice::ReadOnly))
+        return {};
+    // Memory for all that is asked for would be taken at once, whatever there is to read.
+    return file.read(qMin(MediaFile::maximumBytes, file.size()));
 }
 
-int passesIn(std::string_view piece)
+/// Whether what is planned may be decoded now, so many bytes in all.
+bool isAffordable(const MediaPlan &plan, qint64 bytes, QString *reason)
 {
-    constexpr char beginning[] = "\xff\xda";
-    int passes = 0;
-    for (auto at = piece.find(beginning); at != std::string_view::npos; at = piece.find(beginning, at + 1))
-        ++passes;
-    return passes;
-}
-
-/// Every pass over a progressive picture takes its time and but a few bytes. All that may be the beginning of
-/// one is counted; what films and thumbnails in the file add to that leaves photos within the measure.
-bool isSentInFewPasses(QImageReader &reader, QSize size, qint64 area)
-{
-    if (reader.format() != "jpeg")
-        return true;
-    QIODevice &device = *reader.device();
-    const qint64 place = device.pos();
-    device.seek(0);
-    int passes = 0;
-    // In small pieces, which is faster; a beginning that is cut in two is no matter.
-    for (QByteArray piece = device.read(pieceBytes); !piece.isEmpty(); piece = device.read(pieceBytes))
-        passes += passesIn({piece.constData(), std::size_t(piece.size())});
-    device.seek(place);
-    return MediaFile::isWithin(size, MediaFile::maximumPasses * area / qMax(1, passes));
-}
-
-/// What the header says, before anything is decoded.
-bool isReadable(QImageReader &reader, qint64 area)
-{
-    if (!reader.canRead() || !isTrusted(reader.format()))
+    note(reason, plan.refusal);
+    if (!plan.isReadable())
         return false;
-    const QSize size = reader.size();
-    return !size.isEmpty() && MediaFile::isWithin(size, area) &&
-           MediaFile::bytesOf(size) <= MemoryClaim::left() && isSentInFewPasses(reader, size, area);
+    if (bytes > MemoryClaim::left())
+        note(reason, QStringLiteral("its %1 bytes are more than all media have left").arg(bytes));
+    return bytes <= MemoryClaim::left();
+}
+
+QImage decoded(const MediaPlan &plan, QString *reason)
+{
+    if (!isAffordable(plan, plan.pictureBytes(), reason))
+        return {};
+    QBuffer buffer;
+    buffer.setData(plan.bytes);
+    buffer.open(QIODevice::ReadOnly);
+    QImage picture = QImageReader(&buffer, plan.format).read();
+    picture.setDevicePixelRatio(1);
+    return picture;
+}
+
+QString suffixOf(const QString &path)
+{
+    return QFileInfo(path).suffix();
+}
+
+MediaPlan moviePlan(const QString &path, QString *reason)
+{
+    MediaPlan plan = MediaPlan::of(bytesIn(path, reason), MediaFile::maximumPictureArea, suffixOf(path));
+    if (plan.isMovie && !MediaFile::isWithin(plan.size, MediaFile::maximumFrameArea))
+        plan.refusal = QStringLiteral("its frames have more than %1 pixels").arg(MediaFile::maximumFrameArea);
+    return plan;
+}
+
+SharedMovie readMovieFile(const QString &path, QString *reason)
+{
+    auto file = std::make_shared<MovieFile>();
+    file->plan = moviePlan(path, reason);
+    const bool isKept = isAffordable(file->plan, file->plan.bytes.size(), reason) &&
+                        file->claim.take(file->plan.bytes.size());
+    return isKept ? file : nullptr;
+}
+
+/// One for all who play the file at a time.
+SharedMovie sharedMovie(const QString &path, QString *reason)
+{
+    static FileCache<MovieFile> movies;
+    return movies.get(path, [reason](const QString &file) { return readMovieFile(file, reason); });
+}
+
+const MediaPlan &planOf(const QMovie &movie)
+{
+    return static_cast<const MovieBuffer *>(movie.device())->plan();
+}
+
+qint64 bytesBeside(const MediaPlan &plan)
+{
+    return plan.copies * plan.pictureBytes();
+}
+
+/// With a frame as it is shown, in the format of the screen.
+qint64 bytesToPlay(const MediaPlan &plan)
+{
+    return qMax(plan.pictureBytes(), MediaFile::bytesOf(plan.size)) + bytesBeside(plan);
 }
 } // namespace
 
@@ -83,36 +146,29 @@ qint64 MediaFile::bytesOf(QSize size)
     return qint64(size.width()) * size.height() * 4;
 }
 
-QImage MediaFile::readPicture(const QString &path)
+QImage MediaFile::readPicture(const QString &path, QString *reason)
 {
-    QFile file(path);
-    return open(file) ? readPicture(file, maximumPictureArea) : QImage();
+    return decoded(MediaPlan::of(bytesIn(path, reason), maximumPictureArea, suffixOf(path)), reason);
 }
 
-QImage MediaFile::readPicture(QIODevice &device, qint64 area)
+QImage MediaFile::pictureIn(const QByteArray &bytes, qint64 area, QString *reason)
 {
-    QImageReader reader(&device);
-    if (!isReadable(reader, area))
-        return {};
-    QImage picture = reader.read();
-    picture.setDevicePixelRatio(1);
-    return picture;
+    return decoded(MediaPlan::of(bytes, area), reason);
 }
 
-std::unique_ptr<QMovie> MediaFile::readMovie(const QString &path)
+std::unique_ptr<QMovie> MediaFile::readMovie(const QString &path, QString *reason)
 {
-    QFile file(path);
-    if (!open(file))
+    SharedMovie file = sharedMovie(path, reason);
+    if (!file || !isAffordable(file->plan, bytesToPlay(file->plan), reason))
         return nullptr;
     auto movie = std::make_unique<QMovie>();
-    auto *bytes = new QBuffer(movie.get());
-    bytes->setData(allOf(file));
-    bytes->open(QIODevice::ReadOnly);
-    QImageReader reader(bytes);
-    if (!isReadable(reader, maximumFrameArea))
-        return nullptr;
-    bytes->seek(0);
-    movie->setDevice(bytes);
+    movie->setDevice(new MovieBuffer(std::move(file), movie.get()));
+    movie->setFormat(planOf(*movie).format);
     movie->setCacheMode(QMovie::CacheNone);
     return movie->isValid() ? std::move(movie) : nullptr;
+}
+
+qint64 MediaFile::bytesBeside(const QMovie &movie)
+{
+    return ::bytesBeside(planOf(movie));
 }

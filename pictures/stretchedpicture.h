@@ -3,7 +3,6 @@
 #include "pictures/memoryclaim.h"
 
 #include <QImage>
-#include <QPixmap>
 
 class QPainter;
 
@@ -14,8 +13,8 @@ class StretchedPicture
 public:
     bool isNull() const { return m_image.isNull(); }
 
-    /// False when pictures hold too much memory already; then the former one stays.
-    bool setImage(const QImage &image);
+    /// Shares the image, which is claimed where it comes from.
+    void setImage(const QImage &image);
 
     /// Draws the picture at the origin in this size (px); nothing for an empty size.
     void draw(QPainter &painter, QSize size);
@@ -24,7 +23,6 @@ private:
     void stretch(QSize size);
 
     QImage m_image;
-    QPixmap m_stretched; // null until it is drawn, and while no copy can be kept
-    MemoryClaim m_imageClaim;
+    QImage m_stretched; // null until it is drawn, and while no copy can be kept
     MemoryClaim m_stretchedClaim;
 };

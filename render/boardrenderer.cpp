@@ -24,7 +24,7 @@ QString BoardRenderer::render(const QString &layoutPath, const QString &pictureP
             .arg(layoutPath, QString::number(Screen::maximumItems));
     Screen screen;
     screen.loadLayout(document.layout);
-    const QPixmap picture = pictureOf(screen);
+    const QImage picture = pictureOf(screen);
     if (picture.isNull())
         return text("Cannot render %1: no picture can be %2 x %3 pixels.")
             .arg(layoutPath, QString::number(screen.width()), QString::number(screen.height()));

@@ -3,8 +3,8 @@
 
 build_packages=(
     ca-certificates g++ cmake ninja-build ccache
-    qtbase5-dev qtbase5-dev-tools
-    fontconfig libfontconfig-dev libpng-dev fonts-dejavu-core
+    qtbase5-dev qtbase5-dev-tools libqt5svg5 libpng-dev zlib1g-dev
+    fontconfig libfontconfig-dev fonts-dejavu-core
 )
 test_packages=(
     xvfb xauth x11-utils xdotool openbox

@@ -25,17 +25,26 @@ AnimationViewer::AnimationViewer(QWidget *parent)
 
 AnimationViewer::~AnimationViewer() = default;
 
+bool AnimationViewer::claim(const QMovie &movie, QSize frame)
+{
+    return m_claim.take(MediaFile::bytesBeside(movie) + MediaFile::bytesOf(frame));
+}
+
 void AnimationViewer::openFile(const QString &path)
 {
-    std::unique_ptr<QMovie> movie = MediaFile::readMovie(path);
+    QString reason;
+    std::unique_ptr<QMovie> movie = MediaFile::readMovie(path, &reason);
     if (!movie)
-        return;
+        return tellOfLimit(path, reason);
     movie->start();
     const QSize frame = movie->currentPixmap().size();
-    if (frame.isEmpty() || !m_claim.take(movie->device()->size() + MediaFile::bytesOf(frame)))
+    if (frame.isEmpty())
         return;
+    if (!claim(*movie, frame))
+        return tellOfLimit(path, QStringLiteral("all media together take too much memory"));
     m_label->setMovie(movie.get());
     m_movie = std::move(movie);
+    m_ownSize = frame;
     m_frameSize = frame;
     connect(m_movie.get(), &QMovie::frameChanged, this, &AnimationViewer::restIfHurried);
     connect(m_movie.get(), &QMovie::finished, this, &AnimationViewer::playAgain);
@@ -76,13 +85,18 @@ void AnimationViewer::fitMovie()
     if (!m_movie)
         return;
     // A frame stretched to nothing would end the movie. One too large is stretched by the label.
-    const QSize stretched = size().expandedTo(QSize(1, 1));
-    const bool isAffordable = MediaFile::isWithin(stretched, MediaFile::maximumFrameArea) &&
-                              m_stretchedClaim.take(MediaFile::bytesOf(stretched));
-    m_movie->setScaledSize(isAffordable ? stretched : QSize());
+    scaleFrames(size().expandedTo(QSize(1, 1)));
     // No frame in the new size will follow a single one.
     if (m_movie->state() == QMovie::NotRunning)
         startAnewIfResized();
+}
+
+void AnimationViewer::scaleFrames(QSize size)
+{
+    if (MediaFile::isWithin(size, MediaFile::maximumFrameArea) && claim(*m_movie, size))
+        m_movie->setScaledSize(size);
+    else if (claim(*m_movie, m_ownSize))
+        m_movie->setScaledSize(QSize());
 }
 
 void AnimationViewer::playAgain()

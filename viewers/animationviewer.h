@@ -29,6 +29,8 @@ protected:
 private:
     void layOut();
     void fitMovie();
+    bool claim(const QMovie &movie, QSize frame);
+    void scaleFrames(QSize size);
     void startAnew();
     void startAnewIfResized();
     void playAgain();
@@ -37,9 +39,9 @@ private:
 
     QLabel *m_label = nullptr;
     std::unique_ptr<QMovie> m_movie;
-    QSize m_frameSize; // that the movie was started with, not valid for its own
-    MemoryClaim m_claim;
-    MemoryClaim m_stretchedClaim;
-    QTimer m_rest; // runs while a movie that leaves the window no time is held up
+    QSize m_ownSize;     // of the movie's frames
+    QSize m_frameSize;   // that the movie was started with, not valid for its own
+    MemoryClaim m_claim; // of a frame, and of what the movie's reader keeps
+    QTimer m_rest;       // runs while a movie that leaves the window no time is held up
     bool m_isHidden = false;
 };

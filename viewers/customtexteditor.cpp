@@ -3,17 +3,19 @@
 #include "pictures/largeletters.h"
 #include "pictures/mediafile.h"
 #include "pictures/richtext.h"
+#include "pictures/textbounds.h"
 #include "pictures/textletters.h"
 
 #include <QApplication>
-#include <QBuffer>
 #include <QContextMenuEvent>
+#include <QDebug>
 #include <QDrag>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QScrollBar>
+#include <QTextDocumentFragment>
 #include <QUrl>
 
 namespace
@@ -37,27 +39,44 @@ QByteArray carriedBytes(const QUrl &address)
                                                              : QByteArray();
 }
 
+/// Of an address that carries megabytes, the beginning says which it is.
+void tellOfLimit(const QUrl &address, const QString &reason)
+{
+    constexpr int beginning = 60;
+    qDebug().nospace() << "A text leaves out a picture, " << address.toString().left(beginning) << ": "
+                       << qPrintable(reason);
+}
+
 QImage carriedImage(const QUrl &address, qint64 room)
 {
-    QByteArray bytes = carriedBytes(address);
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::ReadOnly);
-    return MediaFile::readPicture(buffer, room / MediaFile::bytesOf({1, 1}));
+    QString reason;
+    QImage image = MediaFile::pictureIn(carriedBytes(address), room / MediaFile::bytesOf({1, 1}), &reason);
+    if (!reason.isEmpty())
+        tellOfLimit(address, reason);
+    return image;
 }
 
-/// Plain text as the markup that it becomes.
-QString markupOf(const QString &text)
+/// What the image takes, in its own format and in that of the screen.
+qint64 bytesOf(const QImage &image)
 {
-    return text.toHtmlEscaped().replace(QLatin1Char('\n'), QLatin1String("</span></p><p><span>"));
+    return qMax(qint64(image.sizeInBytes()), MediaFile::bytesOf(image.size()));
 }
 
-/// What the toolkit would insert, in its order of preference.
-QString markupOf(const QMimeData &source)
+/// The rich text that the toolkit would insert, in its order of preference; empty when it would insert plain
+/// text.
+QString htmlOf(const QMimeData &source)
 {
     const QString ownFormat = QStringLiteral("application/x-qrichtext");
     if (source.hasFormat(ownFormat))
         return QString::fromUtf8(source.data(ownFormat));
-    return source.hasHtml() ? source.html() : markupOf(source.text());
+    return source.hasHtml() ? source.html() : QString();
+}
+
+/// All of a source that a text could hold, as plain text.
+QString plainTextOf(const QMimeData &source)
+{
+    const int length = 2 * RichText::maximumText; // with the breaks between lines
+    return source.hasText() ? source.text().left(length) : RichText::excerpt(htmlOf(source), length);
 }
 
 /// Whether words are being dragged out of the editor, or were until just now.
@@ -70,14 +89,31 @@ bool hasDrag(const QTextEdit &editor)
 CustomTextEditor::CustomTextEditor(QWidget *parent) : QTextEdit(parent)
 {
     TextLetters::prepare(*document());
+    // Told before the layout hears of a change, whatever made it.
+    connect(document(), &QTextDocument::contentsChange, this, [this] { TextBounds::clamp(*document()); });
 }
 
-void CustomTextEditor::showHtml(const QString &html)
+bool CustomTextEditor::showHtml(const QString &html)
 {
     m_pictureBytes = 0;
     m_claim.take(0);
-    document()->setHtml(TextLetters::withoutRelativeLengths(html));
+    // Not laid out before it was judged.
+    QTextCursor step(document());
+    step.beginEditBlock();
+    const bool isWhole = readHtml(html);
+    if (!isWhole)
+        document()->setPlainText(RichText::excerpt(html));
     TextLetters::settle(*document());
+    step.endEditBlock();
+    return isWhole;
+}
+
+bool CustomTextEditor::readHtml(const QString &html)
+{
+    if (!RichText::isShowable(html))
+        return false;
+    document()->setHtml(TextLetters::withoutRelativeLengths(html));
+    return TextBounds::isShowable(*document());
 }
 
 QVariant CustomTextEditor::loadResource(int type, const QUrl &name)
@@ -88,8 +124,11 @@ QVariant CustomTextEditor::loadResource(int type, const QUrl &name)
         name.scheme() == QLatin1String("data") ? carriedImage(name, maximumBytes - m_pictureBytes) : QImage();
     if (image.isNull())
         return leftOut();
-    m_pictureBytes += MediaFile::bytesOf(image.size());
-    m_claim.take(m_pictureBytes);
+    if (!m_claim.take(m_pictureBytes + bytesOf(image))) {
+        tellOfLimit(name, QStringLiteral("all media together take too much memory"));
+        return leftOut();
+    }
+    m_pictureBytes += bytesOf(image);
     return image;
 }
 
@@ -146,12 +185,41 @@ void CustomTextEditor::showBeginning()
 
 void CustomTextEditor::insertFromMimeData(const QMimeData *source)
 {
-    // What is there already counts as well: a text that grows beyond its limits could not be opened again.
-    if (RichText::isShowable(toHtml() + markupOf(*source)))
+    const QString html = htmlOf(*source);
+    if (!html.isEmpty() && RichText::isShowable(html) &&
+        hasRoomFor(QTextDocumentFragment::fromHtml(html, document())))
         QTextEdit::insertFromMimeData(source);
     else
-        insertPlainText(RichText::excerpt(source->hasText() ? markupOf(source->text()) : markupOf(*source)));
+        insertBeginning(*source);
     TextLetters::settle(*document());
+}
+
+void CustomTextEditor::insertBeginning(const QMimeData &source)
+{
+    QString text = TextBounds::beginning(plainTextOf(source), *withoutSelection());
+    while (!text.isEmpty() && !hasRoomFor(QTextDocumentFragment::fromPlainText(text)))
+        text.truncate(text.size() / 2);
+    insertPlainText(text);
+}
+
+QSharedPointer<QTextDocument> CustomTextEditor::withoutSelection() const
+{
+    QSharedPointer<QTextDocument> copy(document()->clone());
+    QTextCursor cursor(copy.data());
+    cursor.setPosition(textCursor().anchor());
+    cursor.setPosition(textCursor().position(), QTextCursor::KeepAnchor);
+    cursor.removeSelectedText();
+    return copy;
+}
+
+bool CustomTextEditor::hasRoomFor(const QTextDocumentFragment &addition) const
+{
+    // Together with what is there already: a text that grows beyond its limits could not be opened again.
+    const QSharedPointer<QTextDocument> whole = withoutSelection();
+    QTextCursor cursor(whole.data());
+    cursor.setPosition(qMin(textCursor().selectionStart(), whole->characterCount() - 1));
+    cursor.insertFragment(addition);
+    return TextBounds::isShowable(*whole) && RichText::isShowable(whole->toHtml());
 }
 
 void CustomTextEditor::changeEvent(QEvent *event)

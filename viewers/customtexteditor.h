@@ -2,7 +2,10 @@
 
 #include "pictures/memoryclaim.h"
 
+#include <QSharedPointer>
 #include <QTextEdit>
+
+class QTextDocumentFragment;
 
 /// The editor inside a text item. A class of its own, so that the style sheet can address it; otherwise the
 /// toolkit's, but for what files and clipboard may bring and for the look of its context menu.
@@ -13,8 +16,9 @@ class CustomTextEditor : public QTextEdit
 public:
     explicit CustomTextEditor(QWidget *parent = nullptr);
 
-    /// Replaces the document's content, with new room for pictures.
-    void showHtml(const QString &html);
+    /// Replaces the document's content, with new room for pictures. Of what is too much only the beginning is
+    /// shown, as plain text; answers whether all of it is.
+    bool showHtml(const QString &html);
 
     /// Reaches for nothing outside: pictures that the HTML carries with it are shown, those that it only
     /// names (on a server, in a file) are left out, and so are drawings, which may name others, style sheets,
@@ -37,10 +41,16 @@ protected:
     void paintEvent(QPaintEvent *event) override;
     /// A text that is larger than the editor shows its beginning; the toolkit would look for its cursor.
     void showEvent(QShowEvent *event) override;
-    /// Of what is too much to be shown only the beginning is inserted.
+    /// Of what is too much for one text only the beginning is inserted, as plain text: as much as there is
+    /// room.
     void insertFromMimeData(const QMimeData *source) override;
 
 private:
+    bool readHtml(const QString &html);
+    void insertBeginning(const QMimeData &source);
+    QSharedPointer<QTextDocument> withoutSelection() const;
+    bool hasRoomFor(const QTextDocumentFragment &addition) const;
+
     QPoint m_pressPosition;
     bool m_hasDragged = false; // with the latest press
     qint64 m_pictureBytes = 0; // of all pictures so far

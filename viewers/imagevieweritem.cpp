@@ -6,9 +6,13 @@ ImageViewerItem::ImageViewerItem(QWidget *parent) : MediaViewer(QStringLiteral("
 
 void ImageViewerItem::openFile(const QString &path)
 {
-    const QImage picture = MediaFile::readPicture(path);
-    if (!picture.isNull() && m_picture.setImage(picture))
-        takeSize(picture.size());
+    QString reason;
+    std::shared_ptr<const SharedPicture> source = SharedPicture::in(path, &reason);
+    if (!source)
+        return tellOfLimit(path, reason);
+    m_picture.setImage(source->image());
+    m_source = std::move(source);
+    takeSize(m_source->image().size());
 }
 
 void ImageViewerItem::paintEvent(QPaintEvent *event)

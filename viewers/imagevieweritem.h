@@ -1,5 +1,6 @@
 #pragma once
 
+#include "pictures/sharedpicture.h"
 #include "pictures/stretchedpicture.h"
 #include "viewers/mediaviewer.h"
 
@@ -16,5 +17,6 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    std::shared_ptr<const SharedPicture> m_source;
     StretchedPicture m_picture;
 };

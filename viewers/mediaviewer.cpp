@@ -3,6 +3,7 @@
 #include "editors/filepathedit.h"
 #include "editors/fileselection.h"
 #include "editors/propertypanel.h"
+#include "model/contenthost.h"
 #include "model/keys.h"
 #include "model/pixels.h"
 #include "model/widgetgeometry.h"
@@ -106,6 +107,14 @@ void MediaViewer::takeSize(QSize size)
     m_values.insert(Keys::w(), taken.width());
     if (frame)
         resizeNow(frame, taken);
+}
+
+void MediaViewer::tellOfLimit(const QString &path, const QString &reason) const
+{
+    const auto *host = dynamic_cast<const ContentHost *>(parentWidget());
+    if (!reason.isEmpty())
+        qDebug().nospace() << metaObject()->className() << ' ' << (host ? host->name() : QString())
+                           << " leaves out " << path << ": " << qPrintable(reason);
 }
 
 void MediaViewer::paintPicture(StretchedPicture &picture)

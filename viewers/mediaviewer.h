@@ -38,6 +38,10 @@ protected:
     /// An item that is being read gets its size from its own values instead.
     void takeSize(QSize size);
 
+    /// Writes to the debug log which file the item leaves out, and the limit that is the reason. Nothing
+    /// without a reason.
+    void tellOfLimit(const QString &path, const QString &reason) const;
+
     /// Paints the whole item with the picture.
     void paintPicture(StretchedPicture &picture);
 

@@ -280,12 +280,7 @@ void TextOutput::showText()
 {
     if (m_isReading)
         return;
-    const QString html = m_values.value(TextKeys::text()).toString();
-    m_isShownWhole = RichText::isShowable(html);
-    if (m_isShownWhole)
-        m_editor->showHtml(html);
-    else
-        m_editor->document()->setPlainText(RichText::excerpt(html));
+    m_isShownWhole = m_editor->showHtml(m_values.value(TextKeys::text()).toString());
 }
 
 void TextOutput::format(const QString &key)

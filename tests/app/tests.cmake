@@ -27,6 +27,12 @@ target_link_libraries(boardwright_displaytest
 
 boardwright_add_test(app/x11/tst_realevents LINK boardwright_displaytest ON_DISPLAY)
 boardwright_add_test(app/x11/tst_denseboard LINK boardwright_exporttest RUNS boardwright-render ON_DISPLAY)
+# The same on a display of few colours.
+add_test(NAME app/x11/tst_denseboard-16-bits
+    COMMAND "${CMAKE_SOURCE_DIR}/tests/support/withdisplay.sh" $<TARGET_FILE:tst_denseboard>)
+get_test_property(app/x11/tst_denseboard ENVIRONMENT environment)
+set_tests_properties(app/x11/tst_denseboard-16-bits PROPERTIES
+    TIMEOUT 120 SKIP_RETURN_CODE 77 ENVIRONMENT "${environment};DISPLAY_DEPTH=16")
 boardwright_add_test(app/x11/tst_realprogram LINK boardwright_displaytest RUNS boardwright ON_DISPLAY)
 boardwright_add_test(app/x11/tst_realupdate
     LINK boardwright_updatetest boardwright_displaytest RUNS boardwright ON_DISPLAY)

@@ -84,7 +84,7 @@ void tst_ScreenMedia::asksForTheFileOfAClickedItem()
     QCOMPARE(shown.screen.items().first()->getValue("Path"), QVariant(path));
     QCOMPARE(shown.screen.items().first()->getValue("Type"), QVariant(type));
     QVERIFY(shown.screen.isModified());
-    QCOMPARE(pictureOf(shown.screen).toImage().pixelColor(63, 31), QColor(Qt::red));
+    QCOMPARE(pictureOf(shown.screen).pixelColor(63, 31), QColor(Qt::red));
 }
 
 void tst_ScreenMedia::activatesTheItemAfterTheDialog()
@@ -195,7 +195,7 @@ void tst_ScreenMedia::readsWithoutAsking()
     QCOMPARE(shown.screen.items().size(), 1);
     QCOMPARE(shown.screen.items().first()->geometry(), QRect(30, 40, 200, 100));
     QVERIFY(!shown.screen.isModified());
-    QCOMPARE(pictureOf(shown.screen).toImage().pixelColor(229, 139), QColor(Qt::red));
+    QCOMPARE(pictureOf(shown.screen).pixelColor(229, 139), QColor(Qt::red));
 }
 
 void tst_ScreenMedia::savesAndReopens()
@@ -210,12 +210,12 @@ void tst_ScreenMedia::savesAndReopens()
     const QJsonObject saved = screen.saveLayout();
     QCOMPARE(saved.value("items").toArray().at(0).toObject(),
              mediaObject("Image Viewer", picture, {700, 0, 100, 50}));
-    const QImage before = pictureOf(screen).toImage();
+    const QImage before = pictureOf(screen);
     ShownScreen other;
     QVERIFY(other.ready);
     other.screen.loadLayout(saved);
     QCOMPARE(other.screen.saveLayout(), saved);
-    QCOMPARE(pictureOf(other.screen).toImage(), before);
+    QCOMPARE(pictureOf(other.screen), before);
 }
 
 void tst_ScreenMedia::keepsItemsWithoutTheirFiles()

@@ -6,7 +6,6 @@
 #include "tests/support/strictmain.h"
 
 #include <QImage>
-#include <QPixmap>
 #include <QTemporaryDir>
 
 class tst_ScreenPicture : public QObject
@@ -48,7 +47,7 @@ QImage pictureOfLayout(const QJsonObject &layout)
 {
     Screen screen;
     screen.loadLayout(layout);
-    return pictureOf(screen).toImage();
+    return pictureOf(screen);
 }
 } // namespace
 
@@ -84,10 +83,10 @@ void tst_ScreenPicture::showsNoEditingBorder()
     ShownScreen shown;
     QVERIFY(shown.ready);
     shown.screen.loadLayout(board(twoShapes()));
-    const QImage before = pictureOf(shown.screen).toImage();
+    const QImage before = pictureOf(shown.screen);
     shown.screen.items().first()->activate();
     shown.screen.selectAllShortcutActivated();
-    QCOMPARE(pictureOf(shown.screen).toImage(), before);
+    QCOMPARE(pictureOf(shown.screen), before);
     QVERIFY(shown.screen.grab().toImage() != before);
 }
 
@@ -96,7 +95,7 @@ void tst_ScreenPicture::isTheSameInViewAndNeverShown()
     ShownScreen shown;
     QVERIFY(shown.ready);
     shown.screen.loadLayout(board(twoShapes()));
-    QCOMPARE(pictureOf(shown.screen).toImage(), pictureOfLayout(board(twoShapes())));
+    QCOMPARE(pictureOf(shown.screen), pictureOfLayout(board(twoShapes())));
 }
 
 void tst_ScreenPicture::stacksItemsInLayerOrder()
@@ -161,7 +160,7 @@ void tst_ScreenPicture::isSavedInTheFormatOfTheSuffix()
     QFETCH(QByteArray, start);
     const QTemporaryDir folder;
     const QString path = folder.filePath(name);
-    QCOMPARE(savePicture(QPixmap(30, 20), path), QString());
+    QCOMPARE(savePicture(QImage(30, 20, QImage::Format_RGB32), path), QString());
     QCOMPARE(QImage(path).size(), QSize(30, 20));
     QFile file(path);
     QVERIFY(file.open(QIODevice::ReadOnly));
@@ -186,7 +185,7 @@ void tst_ScreenPicture::leavesTheFileAloneWhenItCannotSave()
     QVERIFY(file.open(QIODevice::ReadWrite));
     QCOMPARE(file.write("precious"), 8);
     file.close();
-    QVERIFY(!savePicture(QPixmap(size), file.fileName()).isEmpty());
+    QVERIFY(!savePicture(QImage(size, QImage::Format_RGB32), file.fileName()).isEmpty());
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(file.readAll(), QByteArray("precious"));
 }
@@ -194,7 +193,7 @@ void tst_ScreenPicture::leavesTheFileAloneWhenItCannotSave()
 void tst_ScreenPicture::saysWhyAFileCannotBeWritten()
 {
     const QTemporaryDir folder;
-    QCOMPARE(savePicture(QPixmap(3, 2), folder.filePath("missing/board.png")),
+    QCOMPARE(savePicture(QImage(3, 2, QImage::Format_RGB32), folder.filePath("missing/board.png")),
              QString("No such file or directory"));
 }
 

@@ -26,6 +26,7 @@ private slots:
     void readsNothingThatWouldNotFit();
     void readsNoFileLargerThanWhatIsLeft();
     void takesNoPictureThatIsDeeperThanWasLeft();
+    void playsNoPictureThatIsShownDeeperThanWasLeft();
     void keepsNoCopiesFromTheSecondHalf();
     void stretchesNoFramesBeyondIt();
 
@@ -124,18 +125,32 @@ void tst_MemoryClaim::takesNoPictureThatIsDeeperThanWasLeft()
 {
     MediaBoard<ImageViewerItem> board;
     board.content->setValue("Path", m_folder.picture({20, 10}));
-    // Eight bytes for each pixel, which a header is not asked for.
+    // Eight bytes for each pixel.
     const QImage deep = MediaFolder::chequered({70, 30}).convertToFormat(QImage::Format_RGBA64);
     const QString path = m_folder.picture(deep, "deep.png");
     MemoryClaim others;
-    QVERIFY(others.take(MemoryClaim::left() - 70 * 30 * 4));
-    QVERIFY(!MediaFile::readPicture(path).isNull());
+    QVERIFY(others.take(MemoryClaim::left() - 70 * 30 * 8 + 1));
+    QVERIFY(MediaFile::readPicture(path).isNull());
     board.content->setValue("Path", path);
     QCOMPARE(board.frame->size(), QSize(20, 10));
     QCOMPARE(board.picture(), MediaFolder::chequered({20, 10}));
     QVERIFY(others.take(0));
     board.content->setValue("Path", path);
     QCOMPARE(board.frame->size(), QSize(70, 30));
+}
+
+void tst_MemoryClaim::playsNoPictureThatIsShownDeeperThanWasLeft()
+{
+    // One bit for each pixel, but in a label all that the screen has.
+    const QImage mono = MediaFolder::chequered({70, 30}).convertToFormat(QImage::Format_Mono);
+    const QString path = m_folder.picture(mono, "mono.png");
+    const qint64 needed = QFileInfo(path).size() + 70 * 30 * 4;
+    MemoryClaim others;
+    QVERIFY(others.take(MemoryClaim::maximum - needed + 1));
+    QVERIFY(!MediaFile::readPicture(path).isNull());
+    QVERIFY(!MediaFile::readMovie(path));
+    QVERIFY(others.take(MemoryClaim::maximum - needed));
+    QVERIFY(MediaFile::readMovie(path));
 }
 
 void tst_MemoryClaim::keepsNoCopiesFromTheSecondHalf()

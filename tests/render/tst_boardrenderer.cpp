@@ -110,7 +110,7 @@ QImage editorPictureOf(const QString &layout)
     window.show();
     window.openFile(layout);
     window.canvas()->selectAllShortcutActivated();
-    return pictureOf(*window.canvas()).toImage();
+    return pictureOf(*window.canvas());
 }
 
 bool hasPlatformTheme(const QString &name)

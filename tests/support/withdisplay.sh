@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
 # withdisplay.sh <program> [argument...]: runs a test program on a virtual display of its own, with a window manager.
+# DISPLAY_DEPTH: bits of its colours, 24 unless given.
 # Exits with 77, which means skipped, when the machine lacks a tool; where CI is set that is a failure.
 set -euo pipefail
 
@@ -22,7 +23,7 @@ trap clean_up EXIT
 # The server picks a free display and tells its number once it takes connections. No key repeats, however slow
 # the machine is to release it.
 mkfifo "$work/display" "$work/manager"
-Xvfb -displayfd 3 -r -screen 0 1280x800x24 -nolisten tcp 3>"$work/display" 2>"$work/server.log" &
+Xvfb -displayfd 3 -r -screen 0 "1280x800x${DISPLAY_DEPTH:-24}" -nolisten tcp 3>"$work/display" 2>"$work/server.log" &
 children+=($!)
 read -rt 60 number <"$work/display" || { cat "$work/server.log" >&2; exit 1; }
 export DISPLAY=:$number

@@ -53,6 +53,7 @@ private slots:
     void listsAlignThoughItIsNoParameter();
     void limitsItsGeometry();
     void tellsTheLogOfEveryChange();
+    void tellsTheLogWhatALimitLeavesOut();
     void appliesGeometryInOrder();
     void storesWhatItDoesNotKnow();
     void movesTheFrame_data();
@@ -166,6 +167,21 @@ void tst_MediaViewer::tellsTheLogOfEveryChange()
     m_content->anyValueChanged();
     QTest::ignoreMessage(QtDebugMsg, "void " + m_className + "::anyValueChanged()");
     m_content->setValue("Y", 25);
+    QLoggingCategory::setFilterRules("default.debug=false");
+}
+
+void tst_MediaViewer::tellsTheLogWhatALimitLeavesOut()
+{
+    if (m_type == "Video Viewer")
+        QSKIP("reads no file");
+    QByteArray bytes = Gif{{4, 4}, {Qt::red}}.bytes();
+    const QString path = m_folder.file("huge.gif", bytes.replace(6, 4, QByteArray::fromHex("ffffffff")));
+    m_frame->setMyName("Logo");
+    QLoggingCategory::setFilterRules("default.debug=true");
+    const QString line = QString("%1 \"Logo\" leaves out \"%2\": it has more than 128000000 pixels");
+    QTest::ignoreMessage(QtDebugMsg, qPrintable(line.arg(QString(m_className), path)));
+    QTest::ignoreMessage(QtDebugMsg, "void " + m_className + "::anyValueChanged()");
+    m_content->setValue("Path", path);
     QLoggingCategory::setFilterRules("default.debug=false");
 }
 

@@ -147,6 +147,7 @@ private slots:
     void readOnlyTextTakesNoFocus();
     void tooMuchTextDoesNotOpen();
     void tooMuchTextSetWhileEditingStaysStored();
+    void anyNumberOfParagraphsStaysWhole();
 };
 
 void tst_TextEditing::doubleClickStartsEditing()
@@ -802,6 +803,29 @@ void tst_TextEditing::tooMuchTextSetWhileEditingStaysStored()
     texts.board.screen()->saveLayout();
     leave(texts, Canvas);
     QCOMPARE(texts.stored(), html);
+}
+
+void tst_TextEditing::anyNumberOfParagraphsStaysWhole()
+{
+    TwoTexts texts;
+    QVERIFY(texts.isReady);
+    texts.first->setValue("Text", "");
+    texts.board.startEditing(texts.first);
+    QStringList paragraphs;
+    for (int i = 0; i < 16 * 1024; ++i)
+        paragraphs << QString(QLatin1Char(char('a' + i % 26)));
+    const QString text = paragraphs.join('\n');
+    QGuiApplication::clipboard()->setText(text);
+    texts.editor()->selectAll();
+    texts.editor()->paste();
+    QCOMPARE(texts.editor()->document()->blockCount(), paragraphs.size());
+    QCOMPARE(texts.shown(), text);
+    leave(texts, Canvas);
+    texts.board.screen()->loadLayout(texts.board.screen()->saveLayout());
+    ScreenItem *reopened = texts.board.screen()->items().first();
+    QCOMPARE(editorIn(reopened)->toPlainText(), text);
+    texts.board.startEditing(reopened);
+    QVERIFY(isEditing(reopened));
 }
 
 BOARDWRIGHT_TEST_MAIN(tst_TextEditing)

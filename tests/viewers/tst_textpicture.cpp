@@ -83,7 +83,7 @@ private:
     Screen *canvas() const { return m_window->canvas(); }
     void open(const QJsonArray &items);
     void reopen();
-    QImage picture() const { return pictureOf(*canvas()).toImage(); }
+    QImage picture() const { return pictureOf(*canvas()); }
     QImage rendered();
 
     std::unique_ptr<QTemporaryDir> m_folder;
