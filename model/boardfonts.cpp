@@ -40,10 +40,16 @@ bool isPlainName(const QString &name)
     return !name.trimmed().isEmpty() && !name.contains(QLatin1Char(',')) && !name.contains(QLatin1Char('['));
 }
 
-/// For characters that the font of a text lacks: the face with the most letters, then the one with signs.
+/// The face with the most letters.
+QString mainHelper()
+{
+    return QStringLiteral("Arimo");
+}
+
+/// For characters that the font of a text lacks; the second face is the one with signs.
 QStringList helpers()
 {
-    return {QStringLiteral("Arimo"), QStringLiteral("Noto Sans Symbols 2")};
+    return {mainHelper(), QStringLiteral("Noto Sans Symbols 2")};
 }
 
 QStringList findFamilies(const QString &name)
@@ -84,7 +90,8 @@ qreal BoardFonts::points(int pixels)
 
 QFont BoardFonts::plainFont()
 {
-    QFont font(shownFamilies(helpers().first()).first());
+    const QStringList families = shownFamilies(mainHelper());
+    QFont font(families.first());
     font.setPixelSize(plainLetter);
     font.setHintingPreference(QFont::PreferVerticalHinting);
     font.setStyleStrategy(QFont::NoSubpixelAntialias);

@@ -159,8 +159,8 @@ void tst_TextLetters::settledTextIsLeftAlone()
 
 void tst_TextLetters::storesTheFontThatIsNamed()
 {
-    const QStringList families = QFontDatabase().families();
-    for (const QString &family : families + QStringList{"Nowhere"}) {
+    const QStringList families = QFontDatabase().families() + QStringList{"Nowhere"};
+    for (const QString &family : families) {
         if (family.contains('[') || family.contains('\''))
             continue;
         const ReadText text("<p style=\"font-family:'" + family + "'\">x</p>");
