@@ -6,6 +6,7 @@
 #include "canvas/itemclipboard.h"
 #include "canvas/screenitem.h"
 #include "model/keys.h"
+#include "model/layoutfile.h"
 #include "model/namedcolor.h"
 #include "model/pixels.h"
 #include "model/widgetgeometry.h"
@@ -241,11 +242,6 @@ void Screen::loadLayout(const QJsonObject &document)
     m_modified = false;
 }
 
-bool Screen::hasTooManyItems(const QJsonObject &document)
-{
-    return document.value(Keys::items()).toArray().size() > maximumItems;
-}
-
 QVector<QPair<QString, QString>> Screen::itemTypes()
 {
     return ContentFactory::clickableTypes();
@@ -272,7 +268,7 @@ ScreenItem *Screen::createItem(const QJsonObject &object)
 QList<ScreenItem *> Screen::createItems(const QJsonArray &objects)
 {
     const auto readable = std::count_if(objects.begin(), objects.end(), isReadable);
-    HiddenWhileFilling hidden(*this, qMin<qptrdiff>(readable, maximumItems - m_items.size()));
+    HiddenWhileFilling hidden(*this, qMin<qptrdiff>(readable, LayoutFile::maximumItems - m_items.size()));
     QList<ScreenItem *> made;
     for (const QJsonValue &object : objects) {
         if (ScreenItem *item = createItem(object.toObject())) {
@@ -437,7 +433,7 @@ void Screen::deleteSelection()
 
 bool Screen::isFull() const
 {
-    return m_items.size() >= maximumItems;
+    return m_items.size() >= LayoutFile::maximumItems;
 }
 
 void Screen::dragEnterEvent(QDragEnterEvent *event)

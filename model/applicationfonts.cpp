@@ -1,11 +1,13 @@
 #include "model/applicationfonts.h"
 
+#include "assets/fontindex.h"
 #include "assets/fontsresource.h"
 #include "model/boardfonts.h"
 #include "model/fontfamilies.h"
 
 #include <QDebug>
 #include <QDir>
+#include <QFont>
 #include <QFontDatabase>
 #include <QResource>
 
@@ -22,24 +24,62 @@ int addFont(const QString &path)
     const auto *data = reinterpret_cast<const char *>(file.data());
     return QFontDatabase::addApplicationFontFromData(QByteArray::fromRawData(data, int(file.size())));
 }
+void loadFiles(const QStringList &paths)
+{
+    for (const QString &path : paths)
+        FontFamilies::append(QFontDatabase::applicationFontFamilies(addFont(path)));
+}
+
+QString bundledFonts()
+{
+    return QStringLiteral(":/assets/fonts/");
+}
+
+/// The files of fonts that letters with these names are shown in.
+QStringList filesFor(const QStringList &names)
+{
+    QStringList files = FontIndex::filesOf(BoardFonts::plainFamily());
+    for (const QString &name : names) {
+        files.append(FontIndex::filesOf(name));
+        const QStringList standIns = QFont::substitutes(name);
+        for (const QString &standIn : standIns)
+            files.append(FontIndex::filesOf(standIn));
+    }
+    files.removeDuplicates();
+    // Of two files with one face the last one wins, as when all are loaded.
+    files.sort();
+    return files;
+}
+
+void loadLocalFonts()
+{
+    loadFontFolder(QStringLiteral("./fonts/"));
+    BoardFonts::settle();
+    qDebug() << "Font families:" << FontFamilies::list() << "bundled files missing:" << missingFontFiles();
+}
 } // namespace
 
 void loadFontFolder(const QString &folder)
 {
     const QDir dir(folder);
+    QStringList paths;
     const QStringList names = dir.entryList(QDir::Files);
-    for (const QString &name : names) {
-        const int id = addFont(dir.absoluteFilePath(name));
-        FontFamilies::append(QFontDatabase::applicationFontFamilies(id));
-    }
+    for (const QString &name : names)
+        paths.append(dir.absoluteFilePath(name));
+    loadFiles(paths);
 }
 
 void loadApplicationFonts()
 {
     // Fonts added to a database that was never asked are registered a second time at the first text.
     QFontDatabase().families();
-    loadFontFolder(QStringLiteral(":/assets/fonts/"));
-    loadFontFolder(QStringLiteral("./fonts/"));
-    BoardFonts::settle();
-    qDebug() << "Font families:" << FontFamilies::list() << "bundled files missing:" << missingFontFiles();
+    loadFontFolder(bundledFonts());
+    loadLocalFonts();
+}
+
+void loadFontsNamed(const QStringList &names)
+{
+    QFontDatabase().families();
+    loadFiles(filesFor(names));
+    loadLocalFonts();
 }

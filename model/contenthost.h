@@ -5,8 +5,8 @@
 class ContentViewer;
 class QRect;
 
-/// What a content needs to know of the frame that it is made in: that the frame takes it, hears of edits and is
-/// told where the item was stored, and what it is called.
+/// What a content needs to know of the frame that it is made in: that the frame takes it, hears of edits and
+/// is told where the item was stored, and what it is called.
 class ContentHost
 {
 public:

@@ -59,7 +59,8 @@ QImage BoardPicture::of(const QJsonObject &layout)
     QPainter painter(&image);
     painter.fillRect(image.rect(), background);
     const QJsonArray items = layout.value(Keys::items()).toArray();
+    ItemPicture::Files files;
     for (const QJsonValue &item : items)
-        ItemPicture::paint(painter, item.toObject(), image.size());
+        ItemPicture::paint(painter, item.toObject(), image.size(), files);
     return image;
 }

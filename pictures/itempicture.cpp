@@ -4,8 +4,10 @@
 #include "model/pixels.h"
 #include "model/storedvalue.h"
 #include "pictures/itemgeometry.h"
+#include "pictures/mediakeys.h"
 #include "pictures/moviepicture.h"
 #include "pictures/shapepicture.h"
+#include "pictures/sharedpicture.h"
 #include "pictures/stillpicture.h"
 #include "pictures/textpicture.h"
 
@@ -56,19 +58,21 @@ QRect storedGeometry(const Values &values)
 }
 } // namespace
 
-bool ItemPicture::paint(QPainter &painter, const QJsonObject &item, QSize screen)
+void ItemPicture::paint(QPainter &painter, const QJsonObject &item, QSize screen, Files &files)
 {
     const Kind *kind = find(item.value(Keys::type()).toString());
     if (!kind)
-        return false;
+        return;
     const Values values = valuesOf(item);
     const QRect geometry = ItemGeometry::landing(storedGeometry(values), kind->reading, screen);
+    // Also what is out of sight: whether a picture is read depends on those before it.
+    if (kind->paint == &StillPicture::paint)
+        files.push_back(SharedPicture::in(values.value(MediaKeys::path()).toString()));
     if (!geometry.intersects(QRect(QPoint(), screen)))
-        return true;
+        return;
     painter.save();
     painter.translate(geometry.topLeft());
     painter.setClipRect(QRect(QPoint(), geometry.size()));
     kind->paint(painter, values, geometry.size());
     painter.restore();
-    return true;
 }

@@ -30,6 +30,9 @@ bool putTopMargin(QTextDocument &document, int margin)
         return false;
     format.setTopMargin(margin);
     document.rootFrame()->setFrameFormat(format);
+    // The toolkit does not lay an empty document out anew by itself, and its height would stay as it was.
+    if (document.isEmpty())
+        document.markContentsDirty(0, 1);
     return true;
 }
 } // namespace

@@ -6,10 +6,10 @@
 
 class QPainter;
 
-/// What a text, set in its font and aligned as its values say looks like.
+/// What a text item looks like.
 namespace TextPicture
 {
-/// Paints a text, set in its font and aligned as its values say at the origin, over an item of this size in
-/// pixels.
+/// Paints the text of these values (TextKeys) at the origin, broken into lines and placed in an item of this
+/// size in pixels, and cut where the item ends.
 void paint(QPainter &painter, const QMap<QString, QVariant> &values, QSize size);
 } // namespace TextPicture
