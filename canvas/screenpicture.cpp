@@ -22,7 +22,7 @@ QImage pictureOf(Screen &screen)
     if (!BoardPicture::isPaintable(screen.size()))
         return {};
     screen.goToRenderMode();
-    const QImage picture = painted(screen);
+    QImage picture = painted(screen);
     screen.goOutRenderMode();
     return picture;
 }

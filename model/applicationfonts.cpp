@@ -3,6 +3,7 @@
 #include "assets/fontindex.h"
 #include "assets/fontsresource.h"
 #include "model/boardfonts.h"
+#include "model/fontconfigrules.h"
 #include "model/fontfamilies.h"
 
 #include <QDebug>
@@ -24,18 +25,25 @@ int addFont(const QString &path)
     const auto *data = reinterpret_cast<const char *>(file.data());
     return QFontDatabase::addApplicationFontFromData(QByteArray::fromRawData(data, int(file.size())));
 }
+
 void loadFiles(const QStringList &paths)
 {
     for (const QString &path : paths)
         FontFamilies::append(QFontDatabase::applicationFontFamilies(addFont(path)));
 }
 
-QString bundledFonts()
+QStringList filesIn(const QString &folder)
 {
-    return QStringLiteral(":/assets/fonts/");
+    const QDir dir(folder);
+    QStringList paths;
+    const QStringList names = dir.entryList(QDir::Files);
+    for (const QString &name : names)
+        paths.append(dir.absoluteFilePath(name));
+    return paths;
 }
 
-/// The files of fonts that letters with these names are shown in.
+/// The bundled files of the fonts that letters with these names are shown in, as they lie in their folder: of
+/// two files with one face the last one wins.
 QStringList filesFor(const QStringList &names)
 {
     QStringList files = FontIndex::filesOf(BoardFonts::plainFamily());
@@ -46,14 +54,27 @@ QStringList filesFor(const QStringList &names)
             files.append(FontIndex::filesOf(standIn));
     }
     files.removeDuplicates();
-    // Of two files with one face the last one wins, as when all are loaded.
     files.sort();
     return files;
 }
 
-void loadLocalFonts()
+void loadBundledAndLocal(const QStringList &bundled)
 {
+    // Fonts added to a database that was never asked are registered a second time at the first text.
+    QFontDatabase().families();
+    loadFiles(bundled);
     loadFontFolder(QStringLiteral("./fonts/"));
+}
+
+void loadFonts(const QStringList &bundled)
+{
+    loadBundledAndLocal(bundled);
+    if (FontconfigRules::hideNamesakes()) {
+        // The toolkit forgets fonts of the desktop only together with all others.
+        QFontDatabase::removeAllApplicationFonts();
+        FontconfigRules::forgetLoaded();
+        loadBundledAndLocal(bundled);
+    }
     BoardFonts::settle();
     qDebug() << "Font families:" << FontFamilies::list() << "bundled files missing:" << missingFontFiles();
 }
@@ -61,25 +82,15 @@ void loadLocalFonts()
 
 void loadFontFolder(const QString &folder)
 {
-    const QDir dir(folder);
-    QStringList paths;
-    const QStringList names = dir.entryList(QDir::Files);
-    for (const QString &name : names)
-        paths.append(dir.absoluteFilePath(name));
-    loadFiles(paths);
+    loadFiles(filesIn(folder));
 }
 
 void loadApplicationFonts()
 {
-    // Fonts added to a database that was never asked are registered a second time at the first text.
-    QFontDatabase().families();
-    loadFontFolder(bundledFonts());
-    loadLocalFonts();
+    loadFonts(filesIn(QStringLiteral(":/assets/fonts/")));
 }
 
 void loadFontsNamed(const QStringList &names)
 {
-    QFontDatabase().families();
-    loadFiles(filesFor(names));
-    loadLocalFonts();
+    loadFonts(filesFor(names));
 }

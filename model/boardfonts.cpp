@@ -56,7 +56,9 @@ QStringList findFamilies(const QString &name)
 
 void BoardFonts::clearVariables()
 {
-    qunsetenv("QT_MAX_CACHED_GLYPH_SIZE");
+    for (const char *name : {"QT_MAX_CACHED_GLYPH_SIZE", "QT_NO_SYNTHESIZED_BOLD", "QT_NO_SYNTHESIZED_ITALIC",
+                             "QT_HARFBUZZ", "HB_SHAPER_LIST", "FREETYPE_PROPERTIES"})
+        qunsetenv(name);
 }
 
 void BoardFonts::settle()

@@ -8,9 +8,9 @@
 /// The interface's own letters are none of these and follow the desktop.
 namespace BoardFonts
 {
-/// Takes the variable out of the environment with which a user may bound the toolkit's memory of letters: it
-/// changes how they are drawn, and large ones may not be drawn at all. For main, before the application
-/// object.
+/// Takes the variables out of the environment with which a user may change how all letters are drawn and set:
+/// what is drawn from memory (large letters may then not be drawn at all), how bold and slanted letters are
+/// made of others, how thick stems are, who joins letters. For main, before the application object.
 void clearVariables();
 
 /// To be called once the fonts are loaded and before a text is shown: notes the names that can be asked for

@@ -1,6 +1,8 @@
 #include "model/fontconfigrules.h"
 
 #ifdef BOARDWRIGHT_HAS_FONTCONFIG
+#include <QSet>
+
 #include <fontconfig/fontconfig.h>
 
 namespace
@@ -14,13 +16,24 @@ QStringList namesOf(FcPattern *font)
     return names;
 }
 
-/// Of the target "font": a rule for the pattern that is asked for would come before the desktop's own.
-QString smoothRule(const QString &family)
+/// Upper and lower case make no other font.
+QSet<QString> inOneCase(const QStringList &names)
 {
-    return QStringLiteral(
-               "<match target=\"font\"><test name=\"family\" qual=\"any\"><string>%1</string></test>"
-               "<edit name=\"antialias\" mode=\"assign\"><bool>true</bool></edit></match>")
-        .arg(family.toHtmlEscaped());
+    QSet<QString> folded;
+    for (const QString &name : names)
+        folded.insert(name.toCaseFolded());
+    return folded;
+}
+
+/// Of the target "font": a rule for the pattern that is asked for would come before the desktop's own.
+QByteArray smoothRule(const QString &family)
+{
+    return QStringLiteral("<fontconfig><match target=\"font\">"
+                          "<test name=\"family\" qual=\"any\"><string>%1</string></test>"
+                          "<edit name=\"antialias\" mode=\"assign\"><bool>true</bool></edit>"
+                          "</match></fontconfig>")
+        .arg(family.toHtmlEscaped())
+        .toUtf8();
 }
 } // namespace
 
@@ -34,14 +47,36 @@ QStringList FontconfigRules::loadedNames()
     return names;
 }
 
+bool FontconfigRules::hideNamesakes()
+{
+    FcFontSet *fonts = FcConfigGetFonts(FcConfigGetCurrent(), FcSetSystem);
+    const QSet<QString> loaded = inOneCase(loadedNames());
+    if (!fonts)
+        return false;
+    const int before = fonts->nfont;
+    fonts->nfont = 0;
+    for (int i = 0; i < before; ++i) {
+        FcPattern *font = fonts->fonts[i];
+        if (inOneCase(namesOf(font)).intersects(loaded))
+            FcPatternDestroy(font);
+        else
+            fonts->fonts[fonts->nfont++] = font;
+    }
+    return fonts->nfont < before;
+}
+
+void FontconfigRules::forgetLoaded()
+{
+    FcConfigAppFontClear(FcConfigGetCurrent());
+}
+
 void FontconfigRules::keepSmooth(const QStringList &families)
 {
-    QString rules;
-    for (const QString &family : families)
-        rules.append(smoothRule(family));
-    const QByteArray file = QStringLiteral("<fontconfig>%1</fontconfig>").arg(rules).toUtf8();
     FcConfig *config = FcConfigGetCurrent();
-    FcConfigParseAndLoadFromMemory(config, reinterpret_cast<const FcChar8 *>(file.constData()), FcTrue);
+    // One by one: a name that no rule can hold, as fonts of the user may have, takes no other rule along.
+    for (const QString &family : families)
+        FcConfigParseAndLoadFromMemory(
+            config, reinterpret_cast<const FcChar8 *>(smoothRule(family).constData()), FcTrue);
     // A configuration read anew, because its files have changed meanwhile, would lack these rules.
     FcConfigSetRescanInterval(config, 0);
 }
@@ -50,6 +85,13 @@ QStringList FontconfigRules::loadedNames()
 {
     return {};
 }
+
+bool FontconfigRules::hideNamesakes()
+{
+    return false;
+}
+
+void FontconfigRules::forgetLoaded() {}
 
 void FontconfigRules::keepSmooth(const QStringList &families)
 {

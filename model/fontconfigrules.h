@@ -10,6 +10,14 @@ namespace FontconfigRules
 /// own ("Exo 2 Black"). Empty on platforms without fontconfig.
 QStringList loadedNames();
 
+/// Takes the desktop's fonts that share a name with a loaded one out of what this process is offered: the
+/// toolkit would take them for the same family and prefer them. True when there were any; the toolkit then
+/// has to read its fonts anew.
+bool hideNamesakes();
+
+/// Lets go of the loaded fonts, which are about to be loaded once more.
+void forgetLoaded();
+
 /// Draws these families in shades from now on, whatever the desktop says. To be called before their first
 /// letter; fonts of the desktop stay as they are.
 void keepSmooth(const QStringList &families);

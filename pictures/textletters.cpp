@@ -33,6 +33,9 @@ void settleSize(QTextCharFormat &format)
     if (!hasSize)
         return;
     const QFont font = format.font();
+    // Of points that are no whole pixels, the pixels tell no more than about.
+    if (font.pixelSize() > 0 && font.pixelSize() == BoardFonts::pixelSize(format.fontPointSize()))
+        return;
     if (font.pixelSize() > 0)
         setSizes(format, BoardFonts::points(font.pixelSize()), font.pixelSize());
     else
@@ -51,9 +54,15 @@ void settleFormat(QTextCharFormat &format)
     settleFamily(format);
 }
 
-void dropShownFamilies(QTextCharFormat &format)
+/// Letters that are larger or smaller by a step are shown so whatever their size is: stored is the step
+/// alone, in whose place a size would be read.
+void dropShownOnly(QTextCharFormat &format)
 {
     format.clearProperty(QTextFormat::FontFamilies);
+    if (!format.hasProperty(QTextFormat::FontSizeAdjustment))
+        return;
+    format.clearProperty(QTextFormat::FontPointSize);
+    format.clearProperty(QTextFormat::FontPixelSize);
 }
 
 const QRegularExpression &relativeLength()
@@ -187,6 +196,6 @@ void TextLetters::settle(QTextDocument &document)
 QString TextLetters::storedHtml(const QTextDocument &document)
 {
     const std::unique_ptr<QTextDocument> stored(document.clone());
-    changeFormats(*stored, &dropShownFamilies);
+    changeFormats(*stored, &dropShownOnly);
     return stored->toHtml();
 }

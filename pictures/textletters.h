@@ -26,6 +26,7 @@ QString withoutRelativeLengths(const QString &html);
 /// Brings letters that were read from HTML into this form.
 void settle(QTextDocument &document);
 
-/// The document as it is stored: with the fonts that it names instead of those that are shown for them.
+/// The document as it is stored: with the fonts that it names instead of those that are shown for them, and
+/// with the steps in size ("large") that letters are shown by instead of sizes.
 QString storedHtml(const QTextDocument &document);
 } // namespace TextLetters

@@ -58,12 +58,12 @@ void fill(Document &document, const Values &values, QSize size)
     TextLayout::place(document, code % 10, size.height());
 }
 
-/// What has no colour of its own, lines and the borders of tables, has those of the program.
+/// The colours of what has none of its own. Rules between paragraphs are not seen, as in an item.
 QPalette colors()
 {
-    QPalette palette(QColor(0x45, 0x45, 0x45));
-    for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
-        palette.setColor(role, Qt::white);
+    QPalette palette(Qt::white, Qt::black);
+    palette.setColor(QPalette::Text, Qt::white);
+    palette.setColor(QPalette::Dark, Qt::transparent);
     return palette;
 }
 } // namespace

@@ -26,7 +26,8 @@ private slots:
     void setsPointsAt96DotsPerInch();
     void tellsThePointsOfAHeight();
     void plainLettersFollowNoDesktop();
-    void forgetsTheUsersBoundOfLetters();
+    void forgetsTheUsersVariables_data();
+    void forgetsTheUsersVariables();
 };
 
 namespace
@@ -151,11 +152,20 @@ void tst_BoardFonts::plainLettersFollowNoDesktop()
     QVERIFY(font.styleStrategy() & QFont::NoSubpixelAntialias);
 }
 
-void tst_BoardFonts::forgetsTheUsersBoundOfLetters()
+void tst_BoardFonts::forgetsTheUsersVariables_data()
 {
-    qputenv("QT_MAX_CACHED_GLYPH_SIZE", "4096");
+    QTest::addColumn<QByteArray>("name");
+    for (const char *name : {"QT_MAX_CACHED_GLYPH_SIZE", "QT_NO_SYNTHESIZED_BOLD", "QT_NO_SYNTHESIZED_ITALIC",
+                             "QT_HARFBUZZ", "HB_SHAPER_LIST", "FREETYPE_PROPERTIES"})
+        QTest::newRow(name) << QByteArray(name);
+}
+
+void tst_BoardFonts::forgetsTheUsersVariables()
+{
+    QFETCH(QByteArray, name);
+    qputenv(name, "1");
     BoardFonts::clearVariables();
-    QVERIFY(!qEnvironmentVariableIsSet("QT_MAX_CACHED_GLYPH_SIZE"));
+    QVERIFY(!qEnvironmentVariableIsSet(name));
 }
 
 QTEST_MAIN(tst_BoardFonts)

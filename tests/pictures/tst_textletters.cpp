@@ -26,7 +26,11 @@ private slots:
     void headingsKeepTheirProportion();
     void emptyParagraphsAreSettledToo();
     void settledTextIsLeftAlone();
+    void settledSizesKeepTheirPoints_data();
+    void settledSizesKeepTheirPoints();
     void storesTheFontThatIsNamed();
+    void storesTheStepThatLettersAreShownBy_data();
+    void storesTheStepThatLettersAreShownBy();
     void plainLettersAreThoseOfBoards();
     void measuresRelativeLengthsInPlainLetters_data();
     void measuresRelativeLengthsInPlainLetters();
@@ -157,6 +161,23 @@ void tst_TextLetters::settledTextIsLeftAlone()
     QCOMPARE(text.document.revision(), revision);
 }
 
+void tst_TextLetters::settledSizesKeepTheirPoints_data()
+{
+    QTest::addColumn<int>("points");
+    for (const int points : {1, 8, 14, 15, 49, 512})
+        QTest::addRow("%d", points) << points;
+}
+
+void tst_TextLetters::settledSizesKeepTheirPoints()
+{
+    QFETCH(int, points);
+    ReadText text("<p>x</p>");
+    setSize(text.document, points);
+    TextLetters::settle(text.document);
+    QCOMPARE(text.first().fontPointSize(), qreal(points));
+    QCOMPARE(text.first().font().pixelSize(), BoardFonts::pixelSize(points));
+}
+
 void tst_TextLetters::storesTheFontThatIsNamed()
 {
     const QStringList families = QFontDatabase().families() + QStringList{"Nowhere"};
@@ -166,6 +187,29 @@ void tst_TextLetters::storesTheFontThatIsNamed()
         const ReadText text("<p style=\"font-family:'" + family + "'\">x</p>");
         QVERIFY(TextLetters::storedHtml(text.document).contains("font-family:'" + family + "';"));
     }
+}
+
+void tst_TextLetters::storesTheStepThatLettersAreShownBy_data()
+{
+    QTest::addColumn<QString>("html");
+    QTest::addColumn<int>("pixels");
+    QTest::newRow("big") << "<p><big>x</big></p>" << 14;
+    QTest::newRow("small") << "<p><small>x</small></p>" << 10;
+    QTest::newRow("of a name") << "<p style='font-size:x-large'>x</p>" << 18;
+    QTest::newRow("of a number") << "<p><font size='+2'>x</font></p>" << 18;
+    QTest::newRow("heading") << "<h1>x</h1>" << 24;
+    QTest::newRow("none") << "<p>x</p>" << 40;
+}
+
+void tst_TextLetters::storesTheStepThatLettersAreShownBy()
+{
+    QFETCH(QString, html);
+    ReadText text(html);
+    setSize(text.document, 30);
+    QTEST(text.first().font().pixelSize(), "pixels");
+    ReadText again(TextLetters::storedHtml(text.document));
+    setSize(again.document, 30);
+    QTEST(again.first().font().pixelSize(), "pixels");
 }
 
 void tst_TextLetters::plainLettersAreThoseOfBoards()
