@@ -11,6 +11,7 @@
 #include "model/fontfamilies.h"
 #include "model/fontsubstitutions.h"
 #include "model/layoutfile.h"
+#include "pictures/picturefile.h"
 #include "toolbars/itemtypesdragbar.h"
 #include "toolbars/toolbarforscreenitem.h"
 #include "update/updatemagaer.h"
@@ -163,8 +164,8 @@ void MainWindow::openFile(QString filePath)
         showError(tr("Error!"), document.error);
         return;
     }
-    if (Screen::hasTooManyItems(document.layout)) {
-        showError(tr("Error!"), tr("The layout holds more than %1 items.").arg(Screen::maximumItems));
+    if (LayoutFile::hasTooManyItems(document.layout)) {
+        showError(tr("Error!"), tr("The layout holds more than %1 items.").arg(LayoutFile::maximumItems));
         return;
     }
     m_screen->loadLayout(document.layout);
@@ -240,7 +241,7 @@ void MainWindow::exportActionTriggered()
     const QString path = QFileDialog::getSaveFileName(this, tr("Export"), QString(),
                                                       tr("Image file (*.png *.jpg *.jpeg *.bmp)"));
     if (!path.isEmpty())
-        savePicture(pictureOf(*m_screen), path);
+        PictureFile::save(pictureOf(*m_screen), path);
     qDebug("exportActionTriggered");
 }
 

@@ -86,23 +86,6 @@ Qt::CursorShape FrameGeometry::cursorFor(HitZone zone)
     return Qt::ArrowCursor;
 }
 
-QSize FrameGeometry::clampedSize(const QRect &frame, QSize screen)
-{
-    QSize size = frame.size();
-    if (frame.y() + size.height() > screen.height())
-        size.setHeight(screen.height() - frame.y());
-    // The height, as just clamped, is compared here and not the width: on purpose.
-    if (frame.x() + size.height() > screen.width())
-        size.setWidth(screen.width() - frame.x());
-    return size.expandedTo(QSize(0, 0));
-}
-
-bool FrameGeometry::liesOnScreen(const QRect &frame, QSize screen)
-{
-    return frame.x() >= 0 && frame.y() >= 0 && frame.width() >= 0 && frame.height() >= 0 &&
-           frame.x() + frame.width() <= screen.width() && frame.y() + frame.height() <= screen.height();
-}
-
 QPoint FrameGeometry::groupMove(const QRect &boundingBox, QPoint wanted, QSize screen)
 {
     const QPoint farCorner(boundingBox.x() + boundingBox.width(), boundingBox.y() + boundingBox.height());

@@ -21,12 +21,6 @@ HitZone hitZoneAt(QPoint point, const QRect &frame);
 /// The cursor that tells what a drag from the zone would do; not to be asked for HitZone::None.
 Qt::CursorShape cursorFor(HitZone zone);
 
-/// The size that a frame of this geometry is cut to, so that it ends at the screen's right and bottom edges.
-QSize clampedSize(const QRect &frame, QSize screen);
-
-/// True for a frame no part of which lies beyond the screen; without a width or height it may lie on an edge.
-bool liesOnScreen(const QRect &frame, QSize screen);
-
 /// The part of the wanted move that keeps a group of frames on the screen. The far edge of the bounding box
 /// is its left plus its width. Left and top win when the group is larger than the screen.
 QPoint groupMove(const QRect &boundingBox, QPoint wanted, QSize screen);

@@ -6,9 +6,11 @@
 #include "canvas/itemclipboard.h"
 #include "canvas/screenitem.h"
 #include "model/keys.h"
+#include "model/layoutfile.h"
 #include "model/namedcolor.h"
 #include "model/pixels.h"
 #include "model/widgetgeometry.h"
+#include "pictures/itemgeometry.h"
 #include "viewers/contentfactory.h"
 #include "viewers/mediaviewer.h"
 
@@ -26,8 +28,6 @@
 
 namespace
 {
-constexpr QSize newItemSize(100, 50);
-
 /// Beyond one moved frame in this many, one whole paint is cheaper than many small ones.
 constexpr int framesPerMove = 15;
 
@@ -242,11 +242,6 @@ void Screen::loadLayout(const QJsonObject &document)
     m_modified = false;
 }
 
-bool Screen::hasTooManyItems(const QJsonObject &document)
-{
-    return document.value(Keys::items()).toArray().size() > maximumItems;
-}
-
 QVector<QPair<QString, QString>> Screen::itemTypes()
 {
     return ContentFactory::clickableTypes();
@@ -262,7 +257,7 @@ ScreenItem *Screen::createItem(const QJsonObject &object)
     if (isFull() || !isReadable(object))
         return nullptr;
     auto *item = new ScreenItem(this);
-    resizeNow(item, newItemSize);
+    resizeNow(item, ItemGeometry::newItemSize);
     ContentFactory::create(object.value(Keys::type()).toString(), item)->show();
     item->show();
     QJsonObject remaining = object;
@@ -273,7 +268,7 @@ ScreenItem *Screen::createItem(const QJsonObject &object)
 QList<ScreenItem *> Screen::createItems(const QJsonArray &objects)
 {
     const auto readable = std::count_if(objects.begin(), objects.end(), isReadable);
-    HiddenWhileFilling hidden(*this, qMin<qptrdiff>(readable, maximumItems - m_items.size()));
+    HiddenWhileFilling hidden(*this, qMin<qptrdiff>(readable, LayoutFile::maximumItems - m_items.size()));
     QList<ScreenItem *> made;
     for (const QJsonValue &object : objects) {
         if (ScreenItem *item = createItem(object.toObject())) {
@@ -415,7 +410,7 @@ void Screen::newItem(QString name)
 ScreenItem *Screen::newFrame(QPoint position)
 {
     auto *item = new ScreenItem(this);
-    resizeNow(item, newItemSize);
+    resizeNow(item, ItemGeometry::newItemSize);
     moveNow(item, position);
     return item;
 }
@@ -438,7 +433,7 @@ void Screen::deleteSelection()
 
 bool Screen::isFull() const
 {
-    return m_items.size() >= maximumItems;
+    return m_items.size() >= LayoutFile::maximumItems;
 }
 
 void Screen::dragEnterEvent(QDragEnterEvent *event)

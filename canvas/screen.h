@@ -18,9 +18,6 @@ class Screen : public QWidget
     Q_OBJECT
 
 public:
-    /// The toolkit paints siblings by recursion; far beyond this number the stack would overflow.
-    static constexpr int maximumItems = 16384;
-
     explicit Screen(QWidget *parent = nullptr);
     ~Screen() override;
 
@@ -76,9 +73,6 @@ public:
     /// Replaces the whole layout by the document's. What is missing or mistyped there reads as 0, an empty
     /// list or an invalid colour. Afterwards the layout counts as not modified.
     void loadLayout(const QJsonObject &document);
-
-    /// True when the document holds more items than the canvas takes.
-    static bool hasTooManyItems(const QJsonObject &document);
 
     /// The kinds of item that the user can add, in the order of the item bar: type name, for newItem(), and
     /// path of the icon.

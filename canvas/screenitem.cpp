@@ -5,6 +5,7 @@
 #include "canvas/screen.h"
 #include "model/keys.h"
 #include "model/widgetgeometry.h"
+#include "pictures/itemgeometry.h"
 
 #include <QAction>
 #include <QDebug>
@@ -118,7 +119,7 @@ void ScreenItem::contentEdited()
 void ScreenItem::placeAsStored(const QRect &stored)
 {
     const Screen *screen = canvas();
-    if (!screen || !FrameGeometry::liesOnScreen(stored, screen->size()))
+    if (!screen || !ItemGeometry::liesOnScreen(stored, screen->size()))
         return;
     const QScopedValueRollback<bool> placing(m_isPlacing, true);
     resizeNow(this, stored.size());
@@ -548,7 +549,7 @@ void ScreenItem::resizeEvent(QResizeEvent *event)
     Screen *screen = canvas();
     if (!screen)
         return;
-    const QSize clamped = FrameGeometry::clampedSize(QRect(pos(), event->size()), screen->size());
+    const QSize clamped = ItemGeometry::clampedSize(QRect(pos(), event->size()), screen->size());
     if (clamped != event->size() && !m_isPlacing)
         resize(clamped);
     screen->markModified();

@@ -4,7 +4,7 @@
 cmake_minimum_required(VERSION 3.16)
 include("${CMAKE_CURRENT_LIST_DIR}/checkcommon.cmake")
 
-set(floors "assets" "model update" "editors" "viewers" "canvas" "toolbars editors/panels render" "app")
+set(floors "assets" "model update" "pictures" "editors render" "viewers" "canvas" "toolbars editors/panels" "app")
 set(beside_the_house tests bench fuzz docs packaging samples cmake tools)
 
 set(floor 0)

@@ -7,7 +7,8 @@ set(BOARDWRIGHT_FONTS_DIR "" CACHE PATH "A filled node_modules folder to take th
 set(fonts_source "${CMAKE_SOURCE_DIR}/assets/fonts")
 set(fonts_work "${CMAKE_BINARY_DIR}/fonts")
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS
-    "${fonts_source}/fonts.list" "${fonts_source}/licenses.list" "${fonts_source}/woff2ttf.js")
+    "${fonts_source}/fonts.list" "${fonts_source}/licenses.list" "${fonts_source}/woff2ttf.js"
+    "${fonts_source}/fontindex.js")
 find_program(NPM_EXECUTABLE NAMES npm.cmd npm DOC "Fetches the bundled fonts")
 find_program(NODE_EXECUTABLE NAMES node nodejs DOC "Unpacks bundled web fonts")
 
@@ -111,6 +112,7 @@ set(fonts_entries "    <file alias=\"README.txt\">${fonts_source}/README.txt</fi
 install(FILES "${fonts_source}/README.txt" DESTINATION "${fonts_install_folder}")
 set(fonts_total 0)
 set(fonts_missing 0)
+set(fonts_files "")
 foreach(kind licenses fonts)
     file(STRINGS "${fonts_source}/${kind}.list" lines REGEX "^[^#]")
     foreach(line IN LISTS lines)
@@ -121,6 +123,9 @@ foreach(kind licenses fonts)
             continue()
         endif()
         string(APPEND fonts_entries "    <file alias=\"${name}\">${file}</file>\n")
+        if(kind STREQUAL "fonts")
+            list(APPEND fonts_files "${file}")
+        endif()
         if(kind STREQUAL "licenses")
             install(FILES "${file}" DESTINATION "${fonts_install_folder}" RENAME "${name}")
         endif()
@@ -133,6 +138,17 @@ if(fonts_missing GREATER 0)
         "${fonts_reason}. The program will show the system's fonts instead. To have them, install npm and "
         "configure again with network, or set BOARDWRIGHT_FONTS_DIR to a filled node_modules folder.")
 endif()
+
+# Which names each file can be asked for by, so that a program need not open them all to find one. An empty index
+# does no harm: all fonts are opened then.
+set(fonts_index "${fonts_work}/fonts.index")
+file(WRITE "${fonts_index}.in" "")
+if(NODE_EXECUTABLE AND fonts_files)
+    execute_process(COMMAND "${NODE_EXECUTABLE}" "${fonts_source}/fontindex.js" "${fonts_index}.in" ${fonts_files} OUTPUT_QUIET)
+endif()
+configure_file("${fonts_index}.in" "${fonts_index}" COPYONLY)
+string(APPEND fonts_qrc "  <qresource prefix=\"/assets\">\n    <file alias=\"fonts.index\">${fonts_index}</file>\n"
+    "  </qresource>\n")
 
 # Copied, not written in place, so that an unchanged list rebuilds nothing; without substitution, because the
 # packages' paths contain "@".
@@ -147,7 +163,7 @@ if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
     target_compile_options(rcc_object_fonts PRIVATE -fno-lto)
 endif()
 
-add_library(boardwright_fonts_resource STATIC ${fonts_object} fontsresource.cpp fontsresource.h)
+add_library(boardwright_fonts_resource STATIC ${fonts_object} fontindex.cpp fontindex.h fontsresource.cpp fontsresource.h)
 set_target_properties(boardwright_fonts_resource PROPERTIES AUTOMOC OFF)
 target_link_libraries(boardwright_fonts_resource PUBLIC Qt5::Core PRIVATE boardwright_flags)
 target_include_directories(boardwright_fonts_resource PUBLIC "${CMAKE_SOURCE_DIR}")

@@ -1,5 +1,6 @@
 #include "model/applicationfonts.h"
 
+#include "assets/fontindex.h"
 #include "assets/fontsresource.h"
 #include "model/boardfonts.h"
 #include "model/fontconfigrules.h"
@@ -7,6 +8,7 @@
 
 #include <QDebug>
 #include <QDir>
+#include <QFont>
 #include <QFontDatabase>
 #include <QResource>
 
@@ -24,39 +26,71 @@ int addFont(const QString &path)
     return QFontDatabase::addApplicationFontFromData(QByteArray::fromRawData(data, int(file.size())));
 }
 
-void loadFontFolders()
+void loadFiles(const QStringList &paths)
 {
-    loadFontFolder(QStringLiteral(":/assets/fonts/"));
+    for (const QString &path : paths)
+        FontFamilies::append(QFontDatabase::applicationFontFamilies(addFont(path)));
+}
+
+QStringList filesIn(const QString &folder)
+{
+    const QDir dir(folder);
+    QStringList paths;
+    const QStringList names = dir.entryList(QDir::Files);
+    for (const QString &name : names)
+        paths.append(dir.absoluteFilePath(name));
+    return paths;
+}
+
+/// The bundled files of the fonts that letters with these names are shown in, as they lie in their folder: of
+/// two files with one face the last one wins.
+QStringList filesFor(const QStringList &names)
+{
+    QStringList files = FontIndex::filesOf(BoardFonts::plainFamily());
+    for (const QString &name : names) {
+        files.append(FontIndex::filesOf(name));
+        const QStringList standIns = QFont::substitutes(name);
+        for (const QString &standIn : standIns)
+            files.append(FontIndex::filesOf(standIn));
+    }
+    files.removeDuplicates();
+    files.sort();
+    return files;
+}
+
+void loadBundledAndLocal(const QStringList &bundled)
+{
+    // Fonts added to a database that was never asked are registered a second time at the first text.
+    QFontDatabase().families();
+    loadFiles(bundled);
     loadFontFolder(QStringLiteral("./fonts/"));
 }
 
-/// The toolkit forgets fonts of the desktop only together with all others.
-void loadFontFoldersAnew()
+void loadFonts(const QStringList &bundled)
 {
-    QFontDatabase::removeAllApplicationFonts();
-    FontconfigRules::forgetLoaded();
-    QFontDatabase().families();
-    loadFontFolders();
+    loadBundledAndLocal(bundled);
+    if (FontconfigRules::hideNamesakes()) {
+        // The toolkit forgets fonts of the desktop only together with all others.
+        QFontDatabase::removeAllApplicationFonts();
+        FontconfigRules::forgetLoaded();
+        loadBundledAndLocal(bundled);
+    }
+    BoardFonts::settle();
+    qDebug() << "Font families:" << FontFamilies::list() << "bundled files missing:" << missingFontFiles();
 }
 } // namespace
 
 void loadFontFolder(const QString &folder)
 {
-    const QDir dir(folder);
-    const QStringList names = dir.entryList(QDir::Files);
-    for (const QString &name : names) {
-        const int id = addFont(dir.absoluteFilePath(name));
-        FontFamilies::append(QFontDatabase::applicationFontFamilies(id));
-    }
+    loadFiles(filesIn(folder));
 }
 
 void loadApplicationFonts()
 {
-    // Fonts added to a database that was never asked are registered a second time at the first text.
-    QFontDatabase().families();
-    loadFontFolders();
-    if (FontconfigRules::hideNamesakes())
-        loadFontFoldersAnew();
-    BoardFonts::settle();
-    qDebug() << "Font families:" << FontFamilies::list() << "bundled files missing:" << missingFontFiles();
+    loadFonts(filesIn(QStringLiteral(":/assets/fonts/")));
+}
+
+void loadFontsNamed(const QStringList &names)
+{
+    loadFonts(filesFor(names));
 }

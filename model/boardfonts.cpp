@@ -40,16 +40,10 @@ bool isPlainName(const QString &name)
     return !name.trimmed().isEmpty() && !name.contains(QLatin1Char(',')) && !name.contains(QLatin1Char('['));
 }
 
-/// The face with the most letters.
-QString mainHelper()
-{
-    return QStringLiteral("Arimo");
-}
-
-/// For characters that the font of a text lacks; the second face is the one with signs.
+/// For characters that the font of a text lacks: the face with the most letters, then the one with signs.
 QStringList helpers()
 {
-    return {mainHelper(), QStringLiteral("Noto Sans Symbols 2")};
+    return {BoardFonts::plainFamily(), QStringLiteral("Noto Sans Symbols 2")};
 }
 
 QStringList findFamilies(const QString &name)
@@ -80,6 +74,11 @@ QStringList BoardFonts::shownFamilies(const QString &name)
     return found != foundFamilies().cend() ? *found : *foundFamilies().insert(name, findFamilies(name));
 }
 
+QString BoardFonts::plainFamily()
+{
+    return QStringLiteral("Arimo");
+}
+
 int BoardFonts::pixelSize(qreal points)
 {
     return qRound(std::clamp(points * pixelsPerPoint, qreal(1), qreal(largestLetter)));
@@ -92,7 +91,7 @@ qreal BoardFonts::points(int pixels)
 
 QFont BoardFonts::plainFont()
 {
-    const QStringList families = shownFamilies(mainHelper());
+    const QStringList families = shownFamilies(plainFamily());
     QFont font(families.first());
     font.setPixelSize(plainLetter);
     font.setHintingPreference(QFont::PreferVerticalHinting);

@@ -23,6 +23,9 @@ void settle();
 /// taken from fonts of the program, too.
 QStringList shownFamilies(const QString &name);
 
+/// The family of letters of which a text says nothing, and of most of those that its font lacks.
+QString plainFamily();
+
 /// The height of letters of this size in points: a point is 1/72 inch, and a board has 96 pixels to the inch.
 /// Held to 1 to 10,000 px.
 int pixelSize(qreal points);

@@ -3,6 +3,7 @@
 #include "model/contenthost.h"
 #include "model/keys.h"
 #include "model/pixels.h"
+#include "model/storedvalue.h"
 #include "model/widgetgeometry.h"
 
 #include <QMouseEvent>
@@ -50,16 +51,10 @@ void applyToFrame(QWidget *frame, const Entries &geometry)
         applyKey(frame, entry.first, toPixels(entry.second));
 }
 
-/// Numbers are doubles whatever the JSON reader made of them, so that 10 and 10.0 are the same value.
-QVariant toVariant(const QJsonValue &value)
-{
-    return value.isDouble() ? QVariant(value.toDouble()) : value.toVariant();
-}
-
 QRect geometryIn(const QJsonObject &object)
 {
     const auto pixels = [&object](const QString &key) {
-        return toPixels(toVariant(object.value(key)));
+        return toPixels(storedValue(object.value(key)));
     };
     return {pixels(Keys::x()), pixels(Keys::y()), pixels(Keys::w()), pixels(Keys::h())};
 }
@@ -148,7 +143,7 @@ bool ContentViewer::fromJson(QJsonObject object)
     const auto definitions = getValueNameTypeDefinition();
     for (const Definition &definition : definitions) {
         if (m_values.contains(definition.first))
-            setValue(definition.first, toVariant(object.value(definition.first)));
+            setValue(definition.first, storedValue(object.value(definition.first)));
         else
             complete = false;
     }

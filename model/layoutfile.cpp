@@ -1,9 +1,11 @@
 #include "model/layoutfile.h"
 
 #include "model/filewriting.h"
+#include "model/keys.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QJsonArray>
 #include <QJsonDocument>
 
 namespace
@@ -23,6 +25,11 @@ QString whyNotReadable(const QFileInfo &info)
     return {};
 }
 } // namespace
+
+bool LayoutFile::hasTooManyItems(const QJsonObject &layout)
+{
+    return layout.value(Keys::items()).toArray().size() > maximumItems;
+}
 
 LayoutFile::Document LayoutFile::read(const QString &filePath)
 {

@@ -10,6 +10,13 @@ namespace LayoutFile
 /// memory.
 constexpr int maximumBytes = 256 * 1024 * 1024;
 
+/// The most items of a layout: the toolkit paints siblings by recursion, and far beyond this number the stack
+/// would overflow.
+constexpr int maximumItems = 16384;
+
+/// True when the layout holds more items than a canvas takes.
+bool hasTooManyItems(const QJsonObject &layout);
+
 /// The file filter of the file dialogs.
 inline QString filter()
 {

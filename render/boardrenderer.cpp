@@ -1,8 +1,10 @@
 #include "render/boardrenderer.h"
 
-#include "canvas/screen.h"
-#include "canvas/screenpicture.h"
 #include "model/layoutfile.h"
+#include "pictures/boardpicture.h"
+#include "pictures/picturefile.h"
+#include "render/boardletters.h"
+#include "render/pngbytes.h"
 
 #include <QCoreApplication>
 
@@ -12,6 +14,13 @@ QString text(const char *sourceText)
 {
     return QCoreApplication::translate("BoardRenderer", sourceText);
 }
+
+QString whyNoPicture(const QString &layoutPath, const QJsonObject &layout)
+{
+    const QSize size = BoardPicture::sizeOf(layout);
+    return text("Cannot render %1: no picture can be %2 x %3 pixels.")
+        .arg(layoutPath, QString::number(size.width()), QString::number(size.height()));
+}
 } // namespace
 
 QString BoardRenderer::render(const QString &layoutPath, const QString &picturePath)
@@ -19,15 +28,13 @@ QString BoardRenderer::render(const QString &layoutPath, const QString &pictureP
     const LayoutFile::Document document = LayoutFile::read(layoutPath);
     if (!document.error.isNull())
         return text("Cannot read %1: %2").arg(layoutPath, document.error);
-    if (Screen::hasTooManyItems(document.layout))
+    if (LayoutFile::hasTooManyItems(document.layout))
         return text("Cannot read %1: the layout holds more than %2 items.")
-            .arg(layoutPath, QString::number(Screen::maximumItems));
-    Screen screen;
-    screen.loadLayout(document.layout);
-    const QImage picture = pictureOf(screen);
+            .arg(layoutPath, QString::number(LayoutFile::maximumItems));
+    BoardLetters::loadFonts(document.layout);
+    const QImage picture = BoardPicture::of(document.layout);
     if (picture.isNull())
-        return text("Cannot render %1: no picture can be %2 x %3 pixels.")
-            .arg(layoutPath, QString::number(screen.width()), QString::number(screen.height()));
-    const QString error = savePicture(picture, picturePath);
+        return whyNoPicture(layoutPath, document.layout);
+    const QString error = PictureFile::save(picture, picturePath, &PngBytes::of);
     return error.isNull() ? error : text("Cannot write %1: %2").arg(picturePath, error);
 }

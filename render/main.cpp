@@ -1,10 +1,9 @@
-#include "model/applicationfonts.h"
-#include "model/applicationstyle.h"
+#include "assets/assets.h"
 #include "model/boardfonts.h"
 #include "model/fontsubstitutions.h"
 #include "render/boardrenderer.h"
 
-#include <QApplication>
+#include <QGuiApplication>
 
 #include <algorithm>
 #include <cstdio>
@@ -54,14 +53,16 @@ int main(int argc, char *argv[])
     qunsetenv("QT_QPA_PLATFORMTHEME");
     clearScales();
     BoardFonts::clearVariables();
-    QApplication application(argc, argv);
-    // As in the editor, whose picture this is to be.
-    applyApplicationStyle();
-    loadApplicationFonts();
+    QGuiApplication application(argc, argv);
+    initAssets();
     registerFontSubstitutions();
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.size() != 3)
         return fail(QStringLiteral("usage: boardwright-render LAYOUT.lay PICTURE.png"));
     const QString error = BoardRenderer::render(arguments.at(1), arguments.at(2));
-    return error.isNull() ? EXIT_SUCCESS : fail(error);
+    const int code = error.isNull() ? EXIT_SUCCESS : fail(error);
+    // The file is written. To take fonts and pictures apart would take longer than to leave them to the
+    // system.
+    std::fflush(nullptr);
+    std::_Exit(code);
 }

@@ -3,7 +3,7 @@
 
 build_packages=(
     ca-certificates g++ cmake ninja-build ccache
-    qtbase5-dev qtbase5-dev-tools libqt5svg5 zlib1g-dev
+    qtbase5-dev qtbase5-dev-tools libqt5svg5 libpng-dev zlib1g-dev
     fontconfig libfontconfig-dev fonts-dejavu-core
 )
 test_packages=(

@@ -1,6 +1,6 @@
 #include "viewers/animationviewer.h"
 
-#include "viewers/mediafile.h"
+#include "pictures/mediafile.h"
 #include "viewers/movielabel.h"
 
 #include <QIODevice>

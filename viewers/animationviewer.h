@@ -1,7 +1,7 @@
 #pragma once
 
+#include "pictures/memoryclaim.h"
 #include "viewers/mediaviewer.h"
-#include "viewers/memoryclaim.h"
 
 #include <QSize>
 #include <QTimer>

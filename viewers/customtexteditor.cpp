@@ -1,14 +1,13 @@
 #include "viewers/customtexteditor.h"
 
-#include "viewers/largeletters.h"
-#include "viewers/mediafile.h"
-#include "viewers/richtext.h"
-#include "viewers/textbounds.h"
-#include "viewers/textletters.h"
+#include "pictures/largeletters.h"
+#include "pictures/richtext.h"
+#include "pictures/textbounds.h"
+#include "pictures/textdocument.h"
+#include "pictures/textletters.h"
 
 #include <QApplication>
 #include <QContextMenuEvent>
-#include <QDebug>
 #include <QDrag>
 #include <QKeyEvent>
 #include <QMenu>
@@ -20,48 +19,6 @@
 
 namespace
 {
-constexpr qint64 maximumBytes = 8 * 1024 * 1024; // of all pictures in one text, a full board among them
-
-/// Not null: for a picture that is null the toolkit would look into files by itself.
-QImage leftOut()
-{
-    QImage image(1, 1, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    return image;
-}
-
-/// The bytes in a "data:" address; empty when they are not written in base 64.
-QByteArray carriedBytes(const QUrl &address)
-{
-    const QByteArray data = address.path(QUrl::FullyDecoded).toLatin1();
-    const int comma = data.indexOf(',');
-    return comma > 0 && data.left(comma).endsWith(";base64") ? QByteArray::fromBase64(data.mid(comma + 1))
-                                                             : QByteArray();
-}
-
-/// Of an address that carries megabytes, the beginning says which it is.
-void tellOfLimit(const QUrl &address, const QString &reason)
-{
-    constexpr int beginning = 60;
-    qDebug().nospace() << "A text leaves out a picture, " << address.toString().left(beginning) << ": "
-                       << qPrintable(reason);
-}
-
-QImage carriedImage(const QUrl &address, qint64 room)
-{
-    QString reason;
-    QImage image = MediaFile::pictureIn(carriedBytes(address), room / MediaFile::bytesOf({1, 1}), &reason);
-    if (!reason.isEmpty())
-        tellOfLimit(address, reason);
-    return image;
-}
-
-/// What the image takes, in its own format and in that of the screen.
-qint64 bytesOf(const QImage &image)
-{
-    return qMax(qint64(image.sizeInBytes()), MediaFile::bytesOf(image.size()));
-}
-
 /// The rich text that the toolkit would insert, in its order of preference; empty when it would insert plain
 /// text.
 QString htmlOf(const QMimeData &source)
@@ -88,48 +45,18 @@ bool hasDrag(const QTextEdit &editor)
 
 CustomTextEditor::CustomTextEditor(QWidget *parent) : QTextEdit(parent)
 {
-    TextLetters::prepare(*document());
-    // Told before the layout hears of a change, whatever made it.
-    connect(document(), &QTextDocument::contentsChange, this, [this] { TextBounds::clamp(*document()); });
+    TextDocument::prepare(*document());
 }
 
 bool CustomTextEditor::showHtml(const QString &html)
 {
-    m_pictureBytes = 0;
-    m_claim.take(0);
-    // Not laid out before it was judged.
-    QTextCursor step(document());
-    step.beginEditBlock();
-    const bool isWhole = readHtml(html);
-    if (!isWhole)
-        document()->setPlainText(RichText::excerpt(html));
-    TextLetters::settle(*document());
-    step.endEditBlock();
-    return isWhole;
-}
-
-bool CustomTextEditor::readHtml(const QString &html)
-{
-    if (!RichText::isShowable(html))
-        return false;
-    document()->setHtml(TextLetters::withoutRelativeLengths(html));
-    return TextBounds::isShowable(*document());
+    m_pictures.clear();
+    return TextDocument::show(*document(), html);
 }
 
 QVariant CustomTextEditor::loadResource(int type, const QUrl &name)
 {
-    if (type != QTextDocument::ImageResource)
-        return QByteArray("");
-    const QImage image =
-        name.scheme() == QLatin1String("data") ? carriedImage(name, maximumBytes - m_pictureBytes) : QImage();
-    if (image.isNull())
-        return leftOut();
-    if (!m_claim.take(m_pictureBytes + bytesOf(image))) {
-        tellOfLimit(name, QStringLiteral("all media together take too much memory"));
-        return leftOut();
-    }
-    m_pictureBytes += bytesOf(image);
-    return image;
+    return m_pictures.resource(type, name);
 }
 
 void CustomTextEditor::contextMenuEvent(QContextMenuEvent *event)

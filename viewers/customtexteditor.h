@@ -1,6 +1,6 @@
 #pragma once
 
-#include "viewers/memoryclaim.h"
+#include "pictures/carriedpictures.h"
 
 #include <QSharedPointer>
 #include <QTextEdit>
@@ -20,9 +20,7 @@ public:
     /// shown, as plain text; answers whether all of it is.
     bool showHtml(const QString &html);
 
-    /// Reaches for nothing outside: pictures that the HTML carries with it are shown, those that it only
-    /// names (on a server, in a file) are left out, and so are drawings, which may name others, style sheets,
-    /// and pictures that are too much for one text or for the memory that all media share.
+    /// Only what the text carries with it (CarriedPictures).
     QVariant loadResource(int type, const QUrl &name) override;
 
     /// Scrolls to the start of the text.
@@ -46,13 +44,11 @@ protected:
     void insertFromMimeData(const QMimeData *source) override;
 
 private:
-    bool readHtml(const QString &html);
     void insertBeginning(const QMimeData &source);
     QSharedPointer<QTextDocument> withoutSelection() const;
     bool hasRoomFor(const QTextDocumentFragment &addition) const;
 
     QPoint m_pressPosition;
     bool m_hasDragged = false; // with the latest press
-    qint64 m_pictureBytes = 0; // of all pictures so far
-    MemoryClaim m_claim;
+    CarriedPictures m_pictures;
 };

@@ -1,5 +1,7 @@
 #include "viewers/imagevieweritem.h"
 
+#include "pictures/mediafile.h"
+
 ImageViewerItem::ImageViewerItem(QWidget *parent) : MediaViewer(QStringLiteral("Image Viewer"), parent) {}
 
 void ImageViewerItem::openFile(const QString &path)

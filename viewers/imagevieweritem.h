@@ -1,8 +1,8 @@
 #pragma once
 
+#include "pictures/sharedpicture.h"
+#include "pictures/stretchedpicture.h"
 #include "viewers/mediaviewer.h"
-#include "viewers/sharedpicture.h"
-#include "viewers/stretchedpicture.h"
 
 /// The content of an image item: one still picture, stretched over the item.
 class ImageViewerItem : public MediaViewer

@@ -7,29 +7,22 @@
 #include "model/keys.h"
 #include "model/pixels.h"
 #include "model/widgetgeometry.h"
-#include "viewers/stretchedpicture.h"
+#include "pictures/mediakeys.h"
+#include "pictures/stretchedpicture.h"
 
 #include <QDebug>
 #include <QGridLayout>
 #include <QPainter>
 
-namespace
-{
-QString pathKey()
-{
-    return QStringLiteral("Path");
-}
-} // namespace
-
 MediaViewer::MediaViewer(const QString &typeName, QWidget *parent) : ContentViewer(parent)
 {
     initValues(typeName);
-    m_values.insert(pathKey(), QString());
+    m_values.insert(MediaKeys::path(), QString());
 }
 
 QVector<QPair<QString, ContentViewer::Parameters::ValueType>> MediaViewer::getValueNameTypeDefinition()
 {
-    return {{pathKey(), Parameters::FilePath},
+    return {{MediaKeys::path(), Parameters::FilePath},
             {Keys::x(), Parameters::Int},
             {Keys::y(), Parameters::Int},
             {Keys::w(), Parameters::Int},
@@ -55,7 +48,7 @@ void MediaViewer::setValue(QString key, QVariant value)
     m_values.insert(key, value);
     if (m_isReading)
         return;
-    if (key == pathKey())
+    if (key == MediaKeys::path())
         openFile(value.toString());
     anyValueChanged();
 }
@@ -79,7 +72,7 @@ void MediaViewer::buildSettingsPanel(QWidget *host)
 {
     auto *panel = new PropertyPanel(this, host);
     auto *path = new FilePathEdit(panel);
-    panel->bind(path, pathKey());
+    panel->bind(path, MediaKeys::path());
     panel->addAreaCategory();
     panel->addCategory(tr("Basic Properties"))->addWidget(path, 0, 0, 1, 2);
     PropertyPanel::alignLabels({path});
@@ -91,9 +84,9 @@ void MediaViewer::chooseFile()
     const std::optional<QString> path = selectFile(this);
     if (!path)
         return;
-    m_values.insert(pathKey(), *path);
-    emit valueChanged(pathKey(), *path);
-    setValue(pathKey(), *path);
+    m_values.insert(MediaKeys::path(), *path);
+    emit valueChanged(MediaKeys::path(), *path);
+    setValue(MediaKeys::path(), *path);
 }
 
 void MediaViewer::takeSize(QSize size)
@@ -133,6 +126,6 @@ void MediaViewer::endReading()
 {
     // Only now, when the item has its size: what is shown need not be fitted twice, and no clamp of a size
     // that does not last has its say.
-    openFile(m_values.value(pathKey()).toString());
+    openFile(m_values.value(MediaKeys::path()).toString());
     m_isReading = false;
 }

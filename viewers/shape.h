@@ -1,7 +1,6 @@
 #pragma once
 
 #include "model/contentviewer.h"
-#include "viewers/shapegeometry.h"
 
 class EnumEdit;
 class PropertyPanel;
@@ -33,10 +32,4 @@ protected:
 
 private:
     static void addBasicProperties(PropertyPanel &panel, EnumEdit *kind, EnumEdit *align);
-    ShapeGeometry::Placement placement() const;
-    bool isOutlined() const;
-    bool isFilled() const;
-    void paintKind(QPainter &painter, const QString &kind);
-    void paintFigure(QPainter &painter, const ShapeGeometry::Figure &figure);
-    void paintRoundFigure(QPainter &painter, const ShapeGeometry::RoundFigure &figure);
 };

@@ -3,20 +3,20 @@
 #include "model/contenthost.h"
 #include "model/keys.h"
 #include "model/widgetgeometry.h"
+#include "pictures/datafields.h"
+#include "pictures/textdocument.h"
+#include "pictures/textkeys.h"
+#include "pictures/textlayout.h"
+#include "pictures/textletters.h"
+#include "pictures/textstyle.h"
 #include "viewers/customtexteditor.h"
-#include "viewers/datafields.h"
-#include "viewers/textkeys.h"
-#include "viewers/textletters.h"
 #include "viewers/textpanel.h"
-#include "viewers/textstyle.h"
 
 #include <QDebug>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
 #include <QTextCursor>
-#include <QTextFrame>
-#include <QTextFrameFormat>
 
 namespace
 {
@@ -27,8 +27,7 @@ constexpr int cursorStep = 4;    // characters
 /// What a new text and a text that was read are dressed in, in this order.
 QStringList everyFormat()
 {
-    return {TextKeys::italic(), TextKeys::font(),  TextKeys::underlined(), TextKeys::size(),
-            TextKeys::bold(),   TextKeys::color(), TextKeys::aligment()};
+    return TextDocument::styleKeys() + QStringList(TextKeys::aligment());
 }
 
 bool isMouseOfFrame(QEvent::Type type)
@@ -295,21 +294,11 @@ void TextOutput::applyFormat(const QStringList &keys)
     QTextCursor cursor = m_editor->textCursor();
     if (!isEditing())
         cursor.select(QTextCursor::Document);
-    const QTextCharFormat style = styleOf(keys);
-    if (!style.isEmpty())
-        cursor.mergeCharFormat(style);
+    TextDocument::style(cursor, keys, m_values);
     if (keys.contains(TextKeys::aligment()))
-        alignParagraphs(cursor);
+        TextLayout::align(cursor, m_horizontal + m_vertical);
     if (isEditing())
         m_editor->setTextCursor(cursor);
-}
-
-QTextCharFormat TextOutput::styleOf(const QStringList &keys) const
-{
-    QTextCharFormat style;
-    for (const QString &key : keys)
-        style.merge(TextStyle::charFormat(key, m_values.value(key)));
-    return style;
 }
 
 void TextOutput::finishFormat()
@@ -326,66 +315,39 @@ void TextOutput::finishFormat()
     placeText();
 }
 
-void TextOutput::alignParagraphs(QTextCursor &cursor) const
-{
-    const auto flags = TextAlignment::flags(m_horizontal + m_vertical);
-    if (!flags)
-        return;
-    QTextBlockFormat paragraph;
-    paragraph.setAlignment(*flags);
-    cursor.mergeBlockFormat(paragraph);
-}
-
 void TextOutput::placeText()
 {
     if (m_vertical == TextAlignment::Middle)
         ValignMiddle();
-    else if (m_vertical == TextAlignment::Bottom)
-        ValignBottom();
-    else if (m_vertical == TextAlignment::Top)
-        ValignTop();
+    else
+        placeAt(m_vertical);
 }
 
 void TextOutput::ValignTop()
 {
-    setTopMargin(&TextAlignment::topMargin);
+    placeAt(TextAlignment::Top);
 }
 
 void TextOutput::ValignMiddle()
 {
     qDebug("void TextOutput::ValignMiddle()");
-    setTopMargin(&TextAlignment::middleMargin);
+    placeAt(TextAlignment::Middle);
 }
 
 void TextOutput::ValignBottom()
 {
-    setTopMargin(&TextAlignment::bottomMargin);
+    placeAt(TextAlignment::Bottom);
 }
 
-void TextOutput::setTopMargin(int (*marginFor)(int, int))
+void TextOutput::placeAt(int vertical)
 {
-    const int documentHeight = int(m_editor->document()->size().height());
-    if (documentHeight == 0)
-        return;
-    const qreal margin = m_editor->document()->rootFrame()->frameFormat().topMargin();
-    const int newMargin = marginFor(documentHeight - int(margin), m_editor->height());
-    if (newMargin != margin)
-        putTopMargin(newMargin);
+    {
+        const QSignalBlocker silence(m_editor);
+        TextLayout::place(*m_editor->document(), vertical, m_editor->height());
+    }
     // A text that is larger than its item is cut, it does not scroll.
     if (!isEditing())
         m_editor->showBeginning();
-}
-
-void TextOutput::putTopMargin(int margin)
-{
-    const QSignalBlocker silence(m_editor);
-    QTextDocument *document = m_editor->document();
-    QTextFrameFormat format = document->rootFrame()->frameFormat();
-    format.setTopMargin(margin);
-    document->rootFrame()->setFrameFormat(format);
-    // The toolkit does not lay an empty document out anew by itself, and its height would stay as it was.
-    if (document->isEmpty())
-        document->markContentsDirty(0, 1);
 }
 
 bool TextOutput::isEditing() const
@@ -418,7 +380,7 @@ void TextOutput::styleEmptyText()
 {
     // For what is typed where there is nothing, or nothing any more.
     QTextDocument *document = m_editor->document();
-    QTextCursor(document).mergeBlockCharFormat(styleOf(everyFormat()));
+    QTextCursor(document).mergeBlockCharFormat(TextDocument::format(TextDocument::styleKeys(), m_values));
     // The toolkit takes the first paragraph's layout away for that and makes no new one.
     document->markContentsDirty(0, document->characterCount());
 }

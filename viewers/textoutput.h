@@ -1,13 +1,11 @@
 #pragma once
 
 #include "model/contentviewer.h"
-#include "viewers/textalignment.h"
+#include "pictures/textalignment.h"
 
 #include <QStringList>
 
 class CustomTextEditor;
-class QTextCharFormat;
-class QTextCursor;
 
 /// The content of a text item: rich text, set and placed by its parameters, and bound to a data field of the
 /// game, which whoever shows the layout puts in its place. Edited in place after a double click.
@@ -71,11 +69,8 @@ private:
     void format(const QString &key);
     void applyFormat(const QStringList &keys);
     void finishFormat();
-    QTextCharFormat styleOf(const QStringList &keys) const;
-    void alignParagraphs(QTextCursor &cursor) const;
     void placeText();
-    void setTopMargin(int (*marginFor)(int, int));
-    void putTopMargin(int margin);
+    void placeAt(int vertical);
 
     CustomTextEditor *m_editor = nullptr;
     int m_vertical = TextAlignment::Middle;

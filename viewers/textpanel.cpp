@@ -6,8 +6,8 @@
 #include "editors/intedit.h"
 #include "editors/propertypanel.h"
 #include "editors/styledcheckedit.h"
-#include "viewers/textalignment.h"
-#include "viewers/textkeys.h"
+#include "pictures/textalignment.h"
+#include "pictures/textkeys.h"
 
 #include <QCoreApplication>
 #include <QGridLayout>

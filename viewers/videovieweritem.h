@@ -1,7 +1,7 @@
 #pragma once
 
+#include "pictures/stretchedpicture.h"
 #include "viewers/mediaviewer.h"
-#include "viewers/stretchedpicture.h"
 
 /// The content of a video item: it keeps the path for whoever plays the layout and shows nothing here. No
 /// road leads to it yet: the table of kinds leaves it out on purpose.

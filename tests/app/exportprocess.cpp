@@ -1,4 +1,5 @@
 #include "tests/app/exportprocess.h"
+#include "pictures/picturefile.h"
 
 #include "app/mainwindow.h"
 #include "app/startup.h"
@@ -94,8 +95,8 @@ int ExportProcess::exportBoard(int argc, char **argv)
         return 1;
     window.openFile(argv[2]);
     QCoreApplication::processEvents();
-    savePicture(pictureOf(*window.canvas()), "first.png");
-    savePicture(pictureOf(*window.canvas()), "second.png");
+    PictureFile::save(pictureOf(*window.canvas()), "first.png");
+    PictureFile::save(pictureOf(*window.canvas()), "second.png");
     seen(window).save("window.png");
     return writeFile("lines.txt", linesOf(*window.canvas()).toUtf8()) ? 0 : 1;
 }

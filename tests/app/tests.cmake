@@ -10,6 +10,8 @@ boardwright_add_test(app/tst_updatecommand LINK boardwright_commandtest boardwri
 boardwright_add_test(app/tst_flowlayout LINK boardwright_app)
 boardwright_add_test(app/tst_samples LINK boardwright_app)
 boardwright_add_test(app/tst_screencontainer LINK boardwright_app)
+boardwright_add_test(app/tst_generatedboards LINK boardwright_app
+    SOURCES app/generatedboard.cpp app/generatedboard.h RUNS boardwright-render)
 boardwright_add_test(app/tst_storm
     LINK boardwright_commandtest SOURCES app/stormuser.cpp app/stormuser.h TIMEOUT 400)
 boardwright_add_test(app/tst_program RUNS boardwright)

@@ -123,7 +123,7 @@ void tst_OpenCommand::openingRefusesMoreItemsThanTheCanvasTakes()
 {
     const QString before = openSmallBoard();
     QJsonArray items;
-    for (int index = 0; index <= Screen::maximumItems; ++index)
+    for (int index = 0; index <= LayoutFile::maximumItems; ++index)
         items.append(QJsonObject());
     writeFile(path("many.lay"), bytesOf(board(items)));
     DialogAnswers answers;

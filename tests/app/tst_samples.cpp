@@ -1,12 +1,12 @@
 #include "app/mainwindow.h"
 #include "canvas/screen.h"
 #include "canvas/screenitem.h"
+#include "pictures/datafields.h"
 #include "tests/model/bundledfonts.h"
 #include "tests/support/dialoganswers.h"
 #include "tests/support/files.h"
 #include "tests/support/samples.h"
 #include "tests/support/strictmain.h"
-#include "viewers/datafields.h"
 
 #include <QDir>
 #include <QFontInfo>

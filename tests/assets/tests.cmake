@@ -1,1 +1,2 @@
 boardwright_add_test(assets/tst_assets LINK boardwright_assets Qt5::Widgets)
+boardwright_add_test(assets/tst_fontindex LINK boardwright_assets boardwright_fonts_resource)

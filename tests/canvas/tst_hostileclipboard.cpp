@@ -1,6 +1,7 @@
 #include "canvas/itemclipboard.h"
 #include "canvas/screen.h"
 #include "canvas/screenitem.h"
+#include "model/layoutfile.h"
 #include "tests/canvas/shownscreen.h"
 #include "tests/support/boards.h"
 #include "tests/support/sanitized.h"
@@ -315,7 +316,7 @@ void tst_HostileClipboard::takesAsManyItemsAsFit()
 {
     // Where everything is slow the limit's own test has to do.
     const int count = scaled(100000, 3000);
-    const int made = qMin(count, Screen::maximumItems - 3);
+    const int made = qMin(count, LayoutFile::maximumItems - 3);
     paste("[" + QByteArray("{\"Type\":\"Shape\",\"W\":5,\"H\":5},").repeated(count - 1) +
           "{\"Type\":\"Shape\"}]");
     QCOMPARE(screen().items().size(), 3 + made);

@@ -1,6 +1,7 @@
 #include "canvas/itemclipboard.h"
 #include "canvas/screen.h"
 #include "canvas/screenitem.h"
+#include "model/layoutfile.h"
 #include "tests/canvas/shownscreen.h"
 #include "tests/support/boards.h"
 #include "tests/support/strictmain.h"
@@ -64,7 +65,7 @@ bool drop(Screen &screen)
 void tst_ScreenLimit::initTestCase()
 {
     QLoggingCategory::setFilterRules("default.debug=false");
-    QCOMPARE(Screen::maximumItems, limit);
+    QCOMPARE(LayoutFile::maximumItems, limit);
     m_shown = new ShownScreen;
     QVERIFY(m_shown->ready);
     m_shown->screen.loadLayout(board(tinyItems(limit + 5)));
@@ -90,10 +91,10 @@ void tst_ScreenLimit::makeRoomFor(int count)
 
 void tst_ScreenLimit::tellsADocumentWithTooManyItems()
 {
-    QVERIFY(!Screen::hasTooManyItems(board(tinyItems(limit))));
-    QVERIFY(Screen::hasTooManyItems(board(tinyItems(limit + 1))));
-    QVERIFY(!Screen::hasTooManyItems({}));
-    QVERIFY(!Screen::hasTooManyItems({{"items", "many"}}));
+    QVERIFY(!LayoutFile::hasTooManyItems(board(tinyItems(limit))));
+    QVERIFY(LayoutFile::hasTooManyItems(board(tinyItems(limit + 1))));
+    QVERIFY(!LayoutFile::hasTooManyItems({}));
+    QVERIFY(!LayoutFile::hasTooManyItems({{"items", "many"}}));
 }
 
 void tst_ScreenLimit::loadsUpToTheLimit()

@@ -1,6 +1,7 @@
 #include "canvas/screen.h"
 #include "canvas/screenitem.h"
 #include "canvas/screenpicture.h"
+#include "pictures/picturefile.h"
 #include "tests/canvas/shownscreen.h"
 #include "tests/support/boards.h"
 #include "tests/support/strictmain.h"
@@ -160,7 +161,7 @@ void tst_ScreenPicture::isSavedInTheFormatOfTheSuffix()
     QFETCH(QByteArray, start);
     const QTemporaryDir folder;
     const QString path = folder.filePath(name);
-    QCOMPARE(savePicture(QImage(30, 20, QImage::Format_RGB32), path), QString());
+    QCOMPARE(PictureFile::save(QImage(30, 20, QImage::Format_RGB32), path), QString());
     QCOMPARE(QImage(path).size(), QSize(30, 20));
     QFile file(path);
     QVERIFY(file.open(QIODevice::ReadOnly));
@@ -185,7 +186,7 @@ void tst_ScreenPicture::leavesTheFileAloneWhenItCannotSave()
     QVERIFY(file.open(QIODevice::ReadWrite));
     QCOMPARE(file.write("precious"), 8);
     file.close();
-    QVERIFY(!savePicture(QImage(size, QImage::Format_RGB32), file.fileName()).isEmpty());
+    QVERIFY(!PictureFile::save(QImage(size, QImage::Format_RGB32), file.fileName()).isEmpty());
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(file.readAll(), QByteArray("precious"));
 }
@@ -193,7 +194,7 @@ void tst_ScreenPicture::leavesTheFileAloneWhenItCannotSave()
 void tst_ScreenPicture::saysWhyAFileCannotBeWritten()
 {
     const QTemporaryDir folder;
-    QCOMPARE(savePicture(QImage(3, 2, QImage::Format_RGB32), folder.filePath("missing/board.png")),
+    QCOMPARE(PictureFile::save(QImage(3, 2, QImage::Format_RGB32), folder.filePath("missing/board.png")),
              QString("No such file or directory"));
 }
 

@@ -1,5 +1,6 @@
 #include "canvas/screen.h"
 #include "canvas/screenitem.h"
+#include "pictures/itemgeometry.h"
 #include "tests/canvas/shownscreen.h"
 #include "tests/support/boards.h"
 #include "tests/support/samples.h"
@@ -8,6 +9,7 @@
 #include <QFile>
 #include <QJsonDocument>
 #include <QLoggingCategory>
+#include <QRandomGenerator>
 #include <QSignalSpy>
 
 #include <array>
@@ -23,6 +25,8 @@ private slots:
     void itemsOnTheScreenComeBackAsStored();
     void itemsBeyondTheScreenPassTheClamps_data();
     void itemsBeyondTheScreenPassTheClamps();
+    void itemsLieWhereAPictureShowsThem_data();
+    void itemsLieWhereAPictureShowsThem();
     void fractionsAreRoundedFirst();
     void missingLengthsAreNone();
     void laterValuesLeaveTheGeometry_data();
@@ -226,6 +230,32 @@ void tst_StoredGeometry::itemsBeyondTheScreenPassTheClamps()
         QVERIFY(shown.ready);
         shown.screen.loadLayout(layoutOf({two.first()}, size));
         verifyLieAt(shown.screen.items(), expected.at(int(i)));
+    }
+}
+
+void tst_StoredGeometry::itemsLieWhereAPictureShowsThem_data()
+{
+    QTest::addColumn<QSize>("size");
+    for (QSize size : {QSize(800, 400), QSize(128, 256), QSize(60, 40), QSize(0, 0)})
+        QTest::newRow(nameOf(size, QRect()).constData()) << size;
+}
+
+void tst_StoredGeometry::itemsLieWhereAPictureShowsThem()
+{
+    QFETCH(QSize, size);
+    QRandomGenerator random(5);
+    const auto anywhere = [&random](int length) {
+        return random.bounded(2 * length + 40) - length / 2 - 20;
+    };
+    Screen screen;
+    for (int i = 0; i < 500; ++i) {
+        const QRect stored(anywhere(size.width()), anywhere(size.height()), anywhere(size.width()),
+                           anywhere(size.height()));
+        const QString kind = kinds[std::size_t(i) % kinds.size()];
+        const auto reading = kind == "Shape" || kind == "Text" ? ItemGeometry::Reading::OneByOne
+                                                               : ItemGeometry::Reading::AtOnce;
+        screen.loadLayout(layoutOf({itemObject(kind, stored)}, size));
+        QCOMPARE(screen.items().first()->geometry(), ItemGeometry::landing(stored, reading, size));
     }
 }
 

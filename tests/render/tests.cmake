@@ -1,1 +1,2 @@
 boardwright_add_test(render/tst_boardrenderer LINK boardwright_render boardwright_app RUNS boardwright-render)
+boardwright_add_test(render/tst_pngbytes LINK boardwright_render)

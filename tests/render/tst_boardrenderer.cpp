@@ -4,6 +4,7 @@
 #include "canvas/screen.h"
 #include "canvas/screenitem.h"
 #include "canvas/screenpicture.h"
+#include "model/layoutfile.h"
 #include "tests/support/apart.h"
 #include "tests/support/boards.h"
 #include "tests/support/files.h"
@@ -393,7 +394,7 @@ void tst_BoardRenderer::rendersTenThousandItems()
 void tst_BoardRenderer::refusesMoreItemsThanTheCanvasTakes()
 {
     QJsonArray items;
-    for (int index = 0; index <= Screen::maximumItems; ++index)
+    for (int index = 0; index <= LayoutFile::maximumItems; ++index)
         items.append(QJsonObject());
     verifyFailure(render(bytesOf(board(items))), "more than 16384 items");
 }

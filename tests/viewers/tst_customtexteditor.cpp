@@ -2,11 +2,11 @@
 
 #include "canvas/screen.h"
 #include "canvas/screenitem.h"
+#include "pictures/memoryclaim.h"
 #include "tests/support/files.h"
 #include "tests/support/gif.h"
 #include "tests/support/strictmain.h"
 #include "tests/viewers/textboard.h"
-#include "viewers/memoryclaim.h"
 
 #include <QApplication>
 #include <QBuffer>

@@ -2,11 +2,11 @@
 
 #include "canvas/screen.h"
 #include "canvas/screenitem.h"
+#include "pictures/datafields.h"
 #include "tests/support/eventcounter.h"
 #include "tests/support/strictmain.h"
 #include "tests/viewers/textboard.h"
 #include "viewers/customtexteditor.h"
-#include "viewers/datafields.h"
 
 #include <QMetaMethod>
 

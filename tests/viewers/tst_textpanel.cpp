@@ -8,12 +8,12 @@
 #include "editors/variableedit.h"
 #include "model/applicationstyle.h"
 #include "model/fontfamilies.h"
+#include "pictures/datafields.h"
 #include "tests/editors/coloranswers.h"
 #include "tests/support/strictmain.h"
 #include "tests/viewers/panelparts.h"
 #include "tests/viewers/textboard.h"
 #include "viewers/customtexteditor.h"
-#include "viewers/datafields.h"
 #include "viewers/textoutput.h"
 
 #include <QCheckBox>
