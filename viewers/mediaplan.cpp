@@ -76,6 +76,7 @@ private:
     void readTiff();
     void readPackedDrawing();
     void readDrawing();
+    void addDrawingTime(double time);
     void addCarried(const QByteArray &picture);
     void askSize(QImageReader &reader);
     void askReader();
@@ -224,6 +225,16 @@ void Inspection::readDrawing()
     // All of the pictures are decoded before it tells its size.
     if (m_plan.refusal.isEmpty())
         askReader();
+    if (m_plan.isReadable())
+        addDrawingTime(contents.cost.drawingTime(contents.tree, m_plan.size));
+}
+
+void Inspection::addDrawingTime(double time)
+{
+    m_plan.drawingTime += time;
+    // What is not a number takes too long, too.
+    if (!(m_plan.drawingTime <= SvgCost::maximum))
+        refuse(QStringLiteral("the drawing takes too long to be drawn"));
 }
 
 void Inspection::addCarried(const QByteArray &picture)
@@ -232,8 +243,12 @@ void Inspection::addCarried(const QByteArray &picture)
     m_carriedTexts += qMax(0, picture.size() - carried.bytes.size());
     m_plan.extraBytes += carried.pictureBytes();
     m_plan.elements += carried.elements;
+    // It is decoded to learn the size, too.
+    m_plan.drawingTime += 2 * carried.drawingTime;
     if (!carried.refusal.isEmpty())
         refuse(QStringLiteral("a picture in the drawing: ") + carried.refusal);
+    else if (m_plan.drawingTime > SvgCost::maximum)
+        refuse(QStringLiteral("the drawings in the drawing take too long to be drawn"));
     else if (m_carriedTexts > maximumCarriedTexts)
         refuse(QStringLiteral("the pictures in the drawing have too long texts"));
     else if (m_plan.extraBytes > m_area * bytesOfPixel)
