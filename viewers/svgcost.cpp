@@ -16,15 +16,31 @@ using Kind = SvgFigure::Kind;
 
 // Measured, in nanoseconds.
 constexpr double timeOfElement = 4000;
-constexpr double timeOfRule = 200; // for each element
+constexpr double timeOfRule = 6000;
+constexpr double timeOfMatch = 500;   // of a rule and an element
+constexpr double timeOfRelation = 45; // of a rule, an element and one that it is in
+constexpr int mostRelations = 256;
+constexpr double timeOfStop = 4; // of a gradient, each time that it may be used
 constexpr double timeOfText = 70000;
 constexpr double timeOfLetter = 3000;
 constexpr double timeOfLetterPixel = 1;
-constexpr double timeOfStrokedPixel = 5; // of a letter
 constexpr double timeOfPixel = 2;
 constexpr double timeOfPicturePixel = 3; // of a picture in the drawing
 
 constexpr double endless = std::numeric_limits<double>::infinity();
+
+// What the outline of a letter is like.
+constexpr double linesOfLetter = 40;
+constexpr double linesOfLetterSide = 4; // that together are as long as the letter is high
+
+constexpr double usualMiterLimit = 4; // few of such joints come near it
+
+/// The outline of a line or a letter, px.
+struct Stroke {
+    double width = 1;
+    double dash = 0;  // none
+    double miter = 1; // times the width
+};
 
 /// What holds for all that is in an element.
 struct Place {
@@ -58,8 +74,9 @@ public:
         m_time = double(picture.width()) * picture.height() * timeOfPixel;
     }
 
-    double time()
+    double time(double timeOfEach)
     {
+        m_timeOfEach = timeOfEach;
         visit(0, start());
         return m_time;
     }
@@ -85,7 +102,7 @@ private:
         place.pen.worsen(m_sheet);
         for (const int part : parts)
             takeMotion(m_figures.at(part), place);
-        m_time += timeOfElement;
+        m_time += m_timeOfEach;
         draw(figure, place);
         for (const int part : parts)
             visit(part, place);
@@ -119,13 +136,12 @@ private:
 
     void draw(const SvgFigure &figure, Place &place)
     {
-        if (place.isMoving)
-            m_rows.gather();
+        m_rows.gather(place.isMoving);
         for (const QPolygonF &line : figure.lines)
             fill(place.transform.map(line));
         m_time += m_rows.takeTime();
         if (place.pen.isDrawn)
-            stroke(figure, place);
+            addStroke(figure, place);
         if (figure.kind == Kind::Text) {
             place.isText = true;
             m_time += timeOfText;
@@ -142,43 +158,64 @@ private:
             m_rows.addLine({line.at(i), line.at((i + 1) % line.size())});
     }
 
-    void stroke(const SvgFigure &figure, const Place &place)
+    static Stroke strokeIn(const Place &place)
     {
         const double scale = scaleOf(place.transform);
-        const double width = place.pen.width * (place.pen.keepsWidth ? std::max(1.0, scale) : scale);
-        const double dash = place.pen.dash * (place.pen.keepsWidth ? std::min(1.0, scale) : scale);
+        Stroke stroke;
+        stroke.width = std::max(1.0, place.pen.width * (place.pen.keepsWidth ? std::max(1.0, scale) : scale));
+        stroke.dash = place.pen.dash * (place.pen.keepsWidth ? std::min(1.0, scale) : scale);
+        stroke.miter = std::max(1.0, place.pen.miterLimit / usualMiterLimit);
+        return stroke;
+    }
+
+    void addStroke(const SvgFigure &figure, const Place &place)
+    {
+        const Stroke stroke = strokeIn(place);
         for (const QPolygonF &line : figure.lines) {
             const QPolygonF pixels = place.transform.map(line);
             for (int i = 0; i < pixels.size(); ++i)
-                stroke({pixels.at(i), pixels.at((i + 1) % pixels.size())}, std::max(1.0, width), dash,
-                       std::max(1.0, place.pen.miterLimit / 4));
+                addStroke({pixels.at(i), pixels.at((i + 1) % pixels.size())}, stroke);
         }
         m_time += m_rows.takeTime();
     }
 
     /// Both sides of a line, the joint at its beginning, and the ends of its dashes.
-    void stroke(const QLineF &line, double width, double dash, double miter)
+    void addStroke(const QLineF &line, const Stroke &stroke)
     {
         QLineF side = line.normalVector();
-        side.setLength(width / 2);
+        side.setLength(stroke.width / 2);
         const QPointF away = line.length() > 0 ? QPointF(side.dx(), side.dy()) : QPointF();
         m_rows.addLine(line.translated(away));
         m_rows.addLine(line.translated(-away));
-        const QPointF corner(width / 2 * miter, width / 2 * miter);
+        const QPointF corner = QPointF(stroke.width, stroke.width) * (stroke.miter / 2);
         m_rows.addLine({line.p1() - corner, line.p1() + corner});
         m_rows.addLine({line.p1() + corner, line.p1() - corner});
-        if (dash > 0)
-            m_rows.addPieces(2 * line.length() / dash + 2, std::min(line.y1(), line.y2()) - width / 2,
-                             std::max(line.y1(), line.y2()) + width / 2, width);
+        if (stroke.dash > 0)
+            m_rows.addPieces(2 * line.length() / stroke.dash + 2,
+                             std::min(line.y1(), line.y2()) - stroke.width / 2,
+                             std::max(line.y1(), line.y2()) + stroke.width / 2, stroke.width);
     }
 
     void write(int letters, const Place &place)
     {
         const double largest = 2.0 * std::max(m_picture.width(), m_picture.height());
-        const double border = place.pen.isDrawn ? place.pen.width : 0;
-        const double side = std::min((place.pen.letters + border) * scaleOf(place.transform), largest);
-        const double time = place.pen.isDrawn ? timeOfStrokedPixel : timeOfLetterPixel;
-        m_time += letters * (timeOfLetter + side * side * time);
+        const double side = std::min(place.pen.letters * scaleOf(place.transform), largest);
+        m_time += letters * (timeOfLetter + side * side * timeOfLetterPixel);
+        if (place.pen.isDrawn && letters > 0)
+            outline(letters, side, strokeIn(place));
+    }
+
+    /// All letters of a text have one outline together.
+    void outline(int letters, double side, const Stroke &stroke)
+    {
+        const double lines = 2.0 * letters * linesOfLetter;
+        m_rows.gather(true);
+        m_rows.addPieces(lines, 0, side, side * 2 / linesOfLetterSide);
+        m_rows.addPieces(lines, 0, stroke.width * stroke.miter, 2 * stroke.width * stroke.miter);
+        if (stroke.dash > 0)
+            m_rows.addPieces(lines * (1 + side / linesOfLetterSide / stroke.dash), 0, stroke.width,
+                             stroke.width);
+        m_time += m_rows.takeTime();
     }
 
     const QVector<SvgFigure> &m_figures;
@@ -186,6 +223,7 @@ private:
     const SvgPen &m_sheet;
     QSize m_picture;
     SvgRows m_rows;
+    double m_timeOfEach = 0;
     double m_time = 0;
 };
 } // namespace
@@ -197,6 +235,7 @@ void SvgCost::addElement(const QString &name, const QXmlStreamAttributes &attrib
         m_whole = std::max(figure.view.width(), figure.view.height());
     // Letters of its own are outlines that are drawn for each letter of a text.
     m_isEndless = m_isEndless || name == QLatin1String("glyph") || name == QLatin1String("missing-glyph");
+    m_stops += name == QLatin1String("stop") ? 1 : 0;
     m_figures.append(figure);
 }
 
@@ -206,7 +245,7 @@ void SvgCost::addSheet(const QString &sheet)
                                             QRegularExpression::DotMatchesEverythingOption);
     QString style = SvgAddress::plain(sheet).remove(comment);
     m_isEndless = m_isEndless || SvgFigure::turns(style);
-    m_rules += style.count(QLatin1Char('{')) + style.count(QLatin1Char(','));
+    countRules(style);
     static const QRegularExpression declaration(QStringLiteral("([\\w-]+)\\s*:([^;}]*)"));
     for (auto matches = declaration.globalMatch(style); matches.hasNext();) {
         const QRegularExpressionMatch match = matches.next();
@@ -216,12 +255,32 @@ void SvgCost::addSheet(const QString &sheet)
     }
 }
 
+void SvgCost::countRules(const QString &style)
+{
+    static const QRegularExpression rule(QStringLiteral("([^{}]*)\\{"));
+    static const QRegularExpression relation(QStringLiteral("[^\\s,][\\s>+]+[^\\s,]"));
+    for (auto matches = rule.globalMatch(style); matches.hasNext();) {
+        const QString selectors = matches.next().captured(1).trimmed();
+        m_rules += 1 + selectors.count(QLatin1Char(','));
+        m_relations += selectors.contains(relation) ? 1 + selectors.count(QLatin1Char(',')) : 0;
+        // All the elements before one are looked at.
+        m_isEndless = m_isEndless || selectors.contains(QLatin1Char('~'));
+    }
+}
+
 double SvgCost::readingTime() const
 {
-    return m_isEndless ? endless : double(m_rules) * m_figures.size() * timeOfRule;
+    if (m_isEndless)
+        return endless;
+    const double elements = m_figures.size();
+    const double around = std::min(m_figures.size(), mostRelations);
+    return m_rules * (timeOfRule + elements * timeOfMatch) +
+           m_relations * elements * around * timeOfRelation + double(m_stops) * m_stops * timeOfStop;
 }
 
 double SvgCost::drawingTime(const SvgElements &elements, const QSize &picture) const
 {
-    return m_figures.isEmpty() ? 0 : Drawing(m_figures, elements, m_sheet, picture).time();
+    return m_figures.isEmpty()
+               ? 0
+               : Drawing(m_figures, elements, m_sheet, picture).time(timeOfElement + m_stops * timeOfStop);
 }

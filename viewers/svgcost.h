@@ -29,9 +29,13 @@ public:
     double drawingTime(const SvgElements &elements, const QSize &picture) const;
 
 private:
+    void countRules(const QString &style);
+
     QVector<SvgFigure> m_figures;
     SvgPen m_sheet = SvgPen::cheapest();
     double m_whole = 0; // what 100% comes to
     int m_rules = 0;
+    int m_relations = 0; // rules about elements in or beside others
+    int m_stops = 0;
     bool m_isEndless = false;
 };

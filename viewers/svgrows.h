@@ -20,8 +20,8 @@ public:
     /// So many pieces that cross so many pixels each and lie somewhere between these rows.
     void addPieces(double count, double top, double bottom, double pixels);
 
-    /// Counts everything as if it lay in all rows at once, for what may be turned anyhow.
-    void gather() { m_isGathered = true; }
+    /// Whether what is added is counted as if it could lie in any row, for what may be turned anyhow.
+    void gather(bool isGathered) { m_isGathered = isGathered; }
 
     /// Of all that was added since the last time, in nanoseconds; not a number for lines without an end.
     double takeTime();

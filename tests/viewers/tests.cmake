@@ -15,7 +15,8 @@ foreach(class animationviewer imagevieweritem mediafile mediaviewer memoryclaim 
         stretchedpicture videovieweritem)
     boardwright_add_test(viewers/tst_${class} LINK boardwright_canvas)
 endforeach()
-foreach(class filecache gifframes gunzip iconentry jpegscans mediaplan pngchunks svgcontents tifflayout)
+foreach(class filecache gifframes gunzip iconentry jpegscans mediaplan pngchunks svgcontents svgcost
+              tifflayout)
     boardwright_add_test(viewers/tst_${class} LINK boardwright_viewers)
 endforeach()
 boardwright_add_test(viewers/tst_textformat LINK boardwright_texttest)
