@@ -23,6 +23,8 @@ constexpr int maximumTextBytes = 64 * 1024 * 1024; // of a picture that is writt
 /// times as much.
 constexpr qint64 maximumCarriedTexts = 64 * 1024;
 
+constexpr QSize usualScreen(1000, 1000); // for drawings that have no size yet
+
 constexpr qint64 bytesOfPixel = 4; // in the usual formats
 constexpr int bitsOfByte = 8;
 
@@ -222,6 +224,9 @@ void Inspection::readDrawing()
         if (m_plan.refusal.isEmpty())
             addCarried(picture);
     }
+    // To measure its figures takes about as long as to draw them.
+    if (m_plan.refusal.isEmpty() && !contents.cost.hasView())
+        addDrawingTime(contents.cost.drawingTime(contents.tree, usualScreen));
     // All of the pictures are decoded before it tells its size.
     if (m_plan.refusal.isEmpty())
         askReader();

@@ -22,8 +22,8 @@ constexpr double timeOfRelation = 45; // of a rule, an element and one that it i
 constexpr int mostRelations = 256;
 constexpr double timeOfStop = 4; // of a gradient, each time that it may be used
 constexpr double timeOfText = 70000;
-constexpr double timeOfLetter = 3000;
-constexpr double timeOfLetterPixel = 1;
+constexpr double timeOfLetter = 5000;
+constexpr double timeOfLetterPixel = 2;
 constexpr double timeOfPixel = 2;
 constexpr double timeOfPicturePixel = 3; // of a picture in the drawing
 
@@ -120,7 +120,7 @@ private:
     {
         if (figure.isTurnedByStyle)
             m_time = endless;
-        const QTransform inner = figure.transform * outer;
+        QTransform inner = figure.transform * outer;
         if (figure.kind != Kind::Drawing)
             return inner;
         const QRectF &view = figure.view;

@@ -21,6 +21,9 @@ public:
     /// What a style sheet says, which may be meant for any of the elements.
     void addSheet(const QString &sheet);
 
+    /// True when the drawing itself tells what fills the picture; else all its figures are measured for that.
+    bool hasView() const { return !m_figures.isEmpty() && !m_figures.first().view.isEmpty(); }
+
     /// Of reading, before anything is drawn, in nanoseconds.
     double readingTime() const;
 

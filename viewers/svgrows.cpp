@@ -8,11 +8,12 @@
 namespace
 {
 // Measured: what the toolkit takes for each, in nanoseconds.
-constexpr double timeOfStep = 11;   // along a line, once for each band that it touches
-constexpr double timeOfLook = 3;    // at a line, once for each band of the figure
-constexpr double timeOfSearch = 1;  // for a pixel among those of its row, for each of them
-constexpr double timeOfPixel = 2;   // that is painted
-constexpr double timeOfPiece = 500; // of an outline, made and brought into the picture
+constexpr double timeOfStep = 11;      // along a line, once for each band that it touches
+constexpr double timeOfLook = 3;       // at a line, once for each band of the figure
+constexpr double timeOfSearch = 1;     // for a pixel among those of its row, for each of them
+constexpr double timeOfPixel = 2;      // that is painted
+constexpr double timeOfPiece = 500;    // of an outline, made and brought into the picture
+constexpr double timeOfOutside = 2000; // for a piece that is cut off
 
 constexpr double pixelsOfBand = 200;
 constexpr double farthest = 65536; // px; lines are cut before they are longer
@@ -63,7 +64,7 @@ void SvgRows::add(const Pieces &pieces)
 
 double SvgRows::takeTime()
 {
-    double time = m_outside * timeOfPiece;
+    double time = m_outside * timeOfOutside;
     if (m_last >= m_first)
         time += timeOfRows() + timeOfArea();
     for (const Pieces &pieces : qAsConst(m_pieces))
