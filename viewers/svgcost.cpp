@@ -23,6 +23,7 @@ constexpr int mostRelations = 256;
 constexpr double timeOfStop = 4; // of a gradient, each time that it may be used
 constexpr double timeOfText = 70000;
 constexpr double timeOfLetter = 5000;
+constexpr double wrapping = 20; // times, where each letter may need a line of its own
 constexpr double timeOfLetterPixel = 2;
 constexpr double timeOfPixel = 2;
 constexpr double timeOfPicturePixel = 3; // of a picture in the drawing
@@ -47,6 +48,7 @@ struct Place {
     QTransform transform; // to pixels
     SvgPen pen;
     bool isText = false;
+    bool isWrapped = false;
     bool isMoving = false;
 };
 
@@ -146,6 +148,7 @@ private:
             place.isText = true;
             m_time += timeOfText;
         }
+        place.isWrapped = place.isWrapped || figure.isWrapped;
         if (place.isText)
             write(figure.letters, place);
         if (figure.kind == Kind::Picture && figure.lines.first().boundingRect().isEmpty())
@@ -200,7 +203,8 @@ private:
     {
         const double largest = 2.0 * std::max(m_picture.width(), m_picture.height());
         const double side = std::min(place.pen.letters * scaleOf(place.transform), largest);
-        m_time += letters * (timeOfLetter + side * side * timeOfLetterPixel);
+        m_time +=
+            letters * (timeOfLetter * (place.isWrapped ? wrapping : 1) + side * side * timeOfLetterPixel);
         if (place.pen.isDrawn && letters > 0)
             outline(letters, side, strokeIn(place));
     }

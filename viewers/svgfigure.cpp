@@ -140,6 +140,7 @@ SvgFigure SvgFigure::of(const QString &name, const QXmlStreamAttributes &attribu
     const Reading reading(attributes, whole);
     SvgFigure figure;
     figure.kind = kindOf(name);
+    figure.isWrapped = name == QLatin1String("textArea");
     figure.lines = reading.lines(name);
     figure.transform = transformOf(reading.text("transform"));
     figure.style = SvgAddress::plain(reading.text("style"));

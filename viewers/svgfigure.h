@@ -18,6 +18,7 @@ struct SvgFigure {
     bool isTurnedByStyle = false; ///< its transform is not known
     QRectF view;                  ///< of a drawing: what fills the picture; empty when that is not told
     double growth = 1;            ///< of a motion: how many times as large it may make what it is in
+    bool isWrapped = false;       ///< a text that is broken into lines
     int letters = 0;
     QVector<QPair<QString, QString>> properties; ///< of the pen, beside the style
     QString style;

@@ -142,6 +142,7 @@ void tst_SvgCost::refusesWhatTakesTooLong_data()
     QTest::newRow("letters") << "<text font-size='2000'>" + QByteArray(1000, 'o') + "</text>";
     QTest::newRow("letters in lengths of their own")
         << "<text font-size='50em'>" + QByteArray(1000, 'o') + "</text>";
+    QTest::newRow("wrapped letters") << "<textArea width='1'>" + QByteArray(9000, 'o') + "</textArea>";
     QTest::newRow("outlines of letters") << "<text " + stroked + ">" + QByteArray(1000, 'o') + "</text>";
     QTest::newRow("letters that it brings itself")
         << QByteArray("<font><glyph unicode='a' d='M0 0'/></font>");
