@@ -23,6 +23,8 @@ constexpr int maximumTextBytes = 64 * 1024 * 1024; // of a picture that is writt
 /// times as much.
 constexpr qint64 maximumCarriedTexts = 64 * 1024;
 
+constexpr QSize usualScreen(1000, 1000); // for drawings that have no size yet
+
 constexpr qint64 bytesOfPixel = 4; // in the usual formats
 constexpr int bitsOfByte = 8;
 
@@ -76,6 +78,7 @@ private:
     void readTiff();
     void readPackedDrawing();
     void readDrawing();
+    void addDrawingTime(double time);
     void addCarried(const QByteArray &picture);
     void askSize(QImageReader &reader);
     void askReader();
@@ -221,9 +224,22 @@ void Inspection::readDrawing()
         if (m_plan.refusal.isEmpty())
             addCarried(picture);
     }
+    // To measure its figures takes about as long as to draw them.
+    if (m_plan.refusal.isEmpty() && !contents.cost.hasView())
+        addDrawingTime(contents.cost.drawingTime(contents.tree, usualScreen));
     // All of the pictures are decoded before it tells its size.
     if (m_plan.refusal.isEmpty())
         askReader();
+    if (m_plan.isReadable())
+        addDrawingTime(contents.cost.drawingTime(contents.tree, m_plan.size));
+}
+
+void Inspection::addDrawingTime(double time)
+{
+    m_plan.drawingTime += time;
+    // What is not a number takes too long, too.
+    if (!(m_plan.drawingTime <= SvgCost::maximum))
+        refuse(QStringLiteral("the drawing takes too long to be drawn"));
 }
 
 void Inspection::addCarried(const QByteArray &picture)
@@ -232,8 +248,12 @@ void Inspection::addCarried(const QByteArray &picture)
     m_carriedTexts += qMax(0, picture.size() - carried.bytes.size());
     m_plan.extraBytes += carried.pictureBytes();
     m_plan.elements += carried.elements;
+    // It is decoded to learn the size, too.
+    m_plan.drawingTime += 2 * carried.drawingTime;
     if (!carried.refusal.isEmpty())
         refuse(QStringLiteral("a picture in the drawing: ") + carried.refusal);
+    else if (m_plan.drawingTime > SvgCost::maximum)
+        refuse(QStringLiteral("the drawings in the drawing take too long to be drawn"));
     else if (m_carriedTexts > maximumCarriedTexts)
         refuse(QStringLiteral("the pictures in the drawing have too long texts"));
     else if (m_plan.extraBytes > m_area * bytesOfPixel)

@@ -12,15 +12,16 @@ struct MediaPlan {
     /// The largest such picture that may be gone over as often, in pixels.
     static constexpr qint64 maximumPassedArea = 64 * 1024 * 1024;
 
-    QByteArray bytes;      ///< for the toolkit: unpacked, and without what the picture can do without
-    QByteArray format;     ///< of these bytes, in the toolkit's words; empty when nobody reads them
-    QSize size;            ///< that will be allocated, px; empty for what cannot be read
-    int bits = 32;         ///< for a pixel of it
-    qint64 extraBytes = 0; ///< while it is decoded: of pictures in a drawing, of parts, between passes
-    int copies = 0;        ///< of the picture that a movie's reader keeps beside the frame it has told
-    int elements = 0;      ///< of a drawing, each as often as it is used
-    bool isMovie = false;  ///< has more than one frame
-    QString refusal;       ///< why it cannot be read though somebody would; else empty
+    QByteArray bytes;       ///< for the toolkit: unpacked, and without what the picture can do without
+    QByteArray format;      ///< of these bytes, in the toolkit's words; empty when nobody reads them
+    QSize size;             ///< that will be allocated, px; empty for what cannot be read
+    int bits = 32;          ///< for a pixel of it
+    qint64 extraBytes = 0;  ///< while it is decoded: of pictures in a drawing, of parts, between passes
+    int copies = 0;         ///< of the picture that a movie's reader keeps beside the frame it has told
+    int elements = 0;       ///< of a drawing, each as often as it is used
+    double drawingTime = 0; ///< of a drawing, roughly, in nanoseconds
+    bool isMovie = false;   ///< has more than one frame
+    QString refusal;        ///< why it cannot be read though somebody would; else empty
 
     /// For bytes that may be anything, from a file whose name has the suffix. A picture of more pixels than
     /// the area is refused.

@@ -24,19 +24,6 @@ QChar escapedLetter(const QString &style, int &place)
     return QChar(ushort(number));
 }
 
-/// The style in plain letters: an escape could hide an address.
-QString plain(const QString &style)
-{
-    if (!style.contains(QLatin1Char('\\')))
-        return style;
-    QString letters;
-    for (int place = 0; place < style.size();) {
-        const QChar letter = style.at(place++);
-        letters += letter == QLatin1Char('\\') ? escapedLetter(style, place) : letter;
-    }
-    return letters;
-}
-
 bool isSpaceOrQuote(QChar letter)
 {
     return letter.isSpace() || letter == QLatin1Char('"') || letter == QLatin1Char('\'');
@@ -50,6 +37,18 @@ QString addressAt(const QString &style, int place)
     return style.mid(place, style.indexOf(QLatin1Char(')'), place) - place);
 }
 } // namespace
+
+QString SvgAddress::plain(const QString &style)
+{
+    if (!style.contains(QLatin1Char('\\')))
+        return style;
+    QString letters;
+    for (int place = 0; place < style.size();) {
+        const QChar letter = style.at(place++);
+        letters += letter == QLatin1Char('\\') ? escapedLetter(style, place) : letter;
+    }
+    return letters;
+}
 
 bool SvgAddress::isInside(const QString &address, QVector<QByteArray> &pictures)
 {

@@ -13,4 +13,7 @@ bool isInside(const QString &address, QVector<QByteArray> &pictures);
 
 /// The same for every "url()" in a style or an attribute. A style that imports another reaches outside.
 bool staysInside(const QString &style, QVector<QByteArray> &pictures);
+
+/// The style in plain letters, without the escapes that could hide an address or a number.
+QString plain(const QString &style);
 } // namespace SvgAddress

@@ -46,7 +46,10 @@ public:
             refuse("the drawing is damaged");
         if (m_contents.refusal.isEmpty() && !m_elements.isWithin(limits()))
             refuse("the drawing uses its elements too often");
+        if (m_contents.refusal.isEmpty() && m_contents.cost.readingTime() > SvgCost::maximum)
+            refuse("the drawing's styles take too long");
         m_contents.elements = m_elements.total().elements;
+        m_contents.tree = m_elements;
         return m_contents;
     }
 
@@ -88,6 +91,8 @@ private:
     void takeText()
     {
         m_elements.addBytes(m_xml.text().size());
+        if (m_elements.depth() > 0)
+            m_contents.cost.addLetters(m_elements.current(), m_xml.text().size());
         if (m_isStyle)
             m_style += m_xml.text();
     }
@@ -104,6 +109,7 @@ private:
             takeAttribute(name, localName(attribute.qualifiedName()), attribute.value().toString());
         }
         m_elements.open(nameIn(attributes), m_used, bytes);
+        m_contents.cost.addElement(name, attributes);
         if (m_elements.depth() > SvgContents::maximumDepth ||
             m_elements.count() > SvgContents::maximumElements)
             refuse("the drawing has too many elements");
@@ -134,7 +140,9 @@ private:
     {
         m_elements.close();
         m_isStyle = false;
-        if (!SvgAddress::staysInside(std::exchange(m_style, QString()), m_contents.pictures))
+        const QString style = std::exchange(m_style, QString());
+        m_contents.cost.addSheet(style);
+        if (!SvgAddress::staysInside(style, m_contents.pictures))
             refuse("the drawing's style reaches outside");
     }
 

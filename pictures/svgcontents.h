@@ -1,5 +1,8 @@
 #pragma once
 
+#include "viewers/svgcost.h"
+#include "viewers/svgelements.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QVector>
@@ -21,6 +24,9 @@ struct SvgContents {
     int elements = 0;             ///< each counted as often as it is used
     QVector<QByteArray> pictures; ///< that the drawing carries with it, as files of any kind
     QString refusal; ///< why it is not to be drawn: it is damaged, reaches outside or is too much; else empty
+
+    SvgElements tree;
+    SvgCost cost; ///< of the elements of the tree
 
     /// Of bytes that may be anything.
     static SvgContents of(const QByteArray &svg);

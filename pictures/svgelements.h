@@ -26,6 +26,12 @@ public:
     /// Adds to what the open element takes; nothing without one.
     void addBytes(qint64 bytes);
 
+    /// What is drawn with the element that was opened at this number: its children and what it uses.
+    QVector<int> partsOf(int index) const { return partsOf(m_nodes.at(index)); }
+
+    /// The number of the open element; there must be one.
+    int current() const { return m_open.last(); }
+
     int depth() const { return m_open.size(); }
     int count() const { return m_nodes.size(); }
 

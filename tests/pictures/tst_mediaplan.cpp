@@ -16,6 +16,7 @@ class tst_MediaPlan : public QObject
     Q_OBJECT
 
 private slots:
+    void refusesDrawingsThatTakeTooLong();
     void knowsWhatWillBeAllocated_data();
     void knowsWhatWillBeAllocated();
     void knowsBitmapsFromTheTop();
@@ -185,6 +186,18 @@ void tst_MediaPlan::countsThePicturesInDrawings()
     const MediaPlan plan = MediaPlan::of(svg(imageOf(png) + imageOf("no picture") + imageOf(png)), area);
     QVERIFY(plan.isReadable());
     QCOMPARE(plan.pictureBytes(), qint64(30 * 20 + 2 * 8 * 6) * 4);
+}
+
+void tst_MediaPlan::refusesDrawingsThatTakeTooLong()
+{
+    if (!hasDrawings())
+        QSKIP("no reader of drawings here");
+    const QByteArray lines = "<path d='M0 0" + QByteArray("V900h1V0h1").repeated(500) + "'/>";
+    const QByteArray large = svg(lines).replace("width='30' height='20'", "width='1000' height='1000'");
+    const QByteArray sizeless = svg(lines).replace("width='30' height='20'", "");
+    for (const QByteArray &drawing : {large, sizeless, svg(imageOf(large))})
+        QVERIFY(MediaPlan::of(drawing, 1024 * 1024).refusal.contains("too long"));
+    QVERIFY(MediaPlan::of(svg("<rect width='5' height='5'/>"), area).drawingTime > 0);
 }
 
 void tst_MediaPlan::countsTheDrawingsInDrawings()
