@@ -1,7 +1,7 @@
 #pragma once
 
-#include "viewers/svgcost.h"
-#include "viewers/svgelements.h"
+#include "pictures/svgcost.h"
+#include "pictures/svgelements.h"
 
 #include <QByteArray>
 #include <QString>

@@ -1,7 +1,7 @@
-#include "viewers/svgcost.h"
+#include "pictures/svgcost.h"
 
-#include "viewers/svgaddress.h"
-#include "viewers/svgrows.h"
+#include "pictures/svgaddress.h"
+#include "pictures/svgrows.h"
 
 #include <QLineF>
 #include <QRegularExpression>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "viewers/svgelements.h"
-#include "viewers/svgfigure.h"
+#include "pictures/svgelements.h"
+#include "pictures/svgfigure.h"
 
 #include <QSize>
 

@@ -1,7 +1,7 @@
-#include "viewers/svgfigure.h"
+#include "pictures/svgfigure.h"
 
-#include "viewers/svgaddress.h"
-#include "viewers/svgpath.h"
+#include "pictures/svgaddress.h"
+#include "pictures/svgpath.h"
 
 #include <QRegularExpression>
 #include <QtMath>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "viewers/svgpen.h"
+#include "pictures/svgpen.h"
 
 #include <QPolygonF>
 #include <QRectF>

@@ -1,4 +1,4 @@
-#include "viewers/svgpath.h"
+#include "pictures/svgpath.h"
 
 #include <algorithm>
 #include <cmath>

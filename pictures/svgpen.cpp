@@ -1,6 +1,6 @@
-#include "viewers/svgpen.h"
+#include "pictures/svgpen.h"
 
-#include "viewers/svgpath.h"
+#include "pictures/svgpath.h"
 
 #include <QRegularExpression>
 

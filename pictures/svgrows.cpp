@@ -1,4 +1,4 @@
-#include "viewers/svgrows.h"
+#include "pictures/svgrows.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,4 +1,4 @@
-#include "viewers/svgcontents.h"
+#include "pictures/svgcontents.h"
 
 #include "tests/support/files.h"
 #include "tests/support/mediabytes.h"
