@@ -95,7 +95,8 @@ public:
         if (text("type") != QLatin1String("scale"))
             return growth;
         for (const char *name : {"from", "to", "by", "values"}) {
-            for (const double number : SvgPath::numbersIn(text(name)))
+            const QVector<double> numbers = SvgPath::numbersIn(text(name));
+            for (const double number : numbers)
                 growth += std::abs(number);
         }
         return growth;
