@@ -12,7 +12,7 @@ private slots:
     void drawsEveryEleventhPixel_data();
     void drawsEveryEleventhPixel();
     void has73ColumnsAnd37RowsOn800By400();
-    void blendsTheStatedColour();
+    void blendsAFaintColour();
     void drawsTheExposedPartOnly_data();
     void drawsTheExposedPartOnly();
     void drawsNothingBetweenThePoints();
@@ -88,7 +88,7 @@ void tst_DotGrid::has73ColumnsAnd37RowsOn800By400()
     QCOMPARE(image.pixel(793, 396), background);
 }
 
-void tst_DotGrid::blendsTheStatedColour()
+void tst_DotGrid::blendsAFaintColour()
 {
     const QColor point = gridOn(QSize(20, 20), QRect(0, 0, 20, 20)).pixelColor(11, 11);
     // 100/255 of (50, 50, 50) over (200, 100, 0); the paint engine rounds as it likes.

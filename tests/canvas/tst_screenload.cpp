@@ -105,7 +105,7 @@ void compareStates(const BoardState &actual, const BoardState &expected)
 }
 
 /// One item, step by step as the format is described.
-void addByTheLetter(Screen &screen, QJsonObject object)
+void addStepByStep(Screen &screen, QJsonObject object)
 {
     auto *item = new ScreenItem(&screen);
     item->resize(100, 50);
@@ -123,7 +123,7 @@ void addByTheLetter(Screen &screen, QJsonObject object)
     item->placeAsStored({pixels("X"), pixels("Y"), pixels("W"), pixels("H")});
 }
 
-void loadByTheLetter(Screen &screen, const QJsonArray &items, const QSize &size)
+void loadStepByStep(Screen &screen, const QJsonArray &items, const QSize &size)
 {
     while (!screen.items().isEmpty())
         delete screen.items().last();
@@ -131,7 +131,7 @@ void loadByTheLetter(Screen &screen, const QJsonArray &items, const QSize &size)
     screen.setHeight(size.height());
     screen.setBackgrounColor(Qt::black);
     for (const QJsonValue &item : items)
-        addByTheLetter(screen, item.toObject());
+        addStepByStep(screen, item.toObject());
 }
 
 QJsonObject layoutOf(const QJsonArray &items, const QSize &size)
@@ -193,8 +193,8 @@ void tst_ScreenLoad::equalsStepsInView()
     QFETCH(QJsonArray, items);
     QFETCH(QSize, size);
     const BoardState stepwise = stateAfter([&](ShownScreen &shown) {
-        loadByTheLetter(shown.screen, manyShapes(3), QSize(300, 200));
-        loadByTheLetter(shown.screen, items, size);
+        loadStepByStep(shown.screen, manyShapes(3), QSize(300, 200));
+        loadStepByStep(shown.screen, items, size);
     });
     const BoardState loaded = stateAfter([&](ShownScreen &shown) {
         shown.screen.loadLayout(layoutOf(manyShapes(3), QSize(300, 200)));
@@ -215,7 +215,7 @@ void tst_ScreenLoad::equalsStepsBeforeTheCanvasIsShown()
     QFETCH(QJsonArray, items);
     QFETCH(QSize, size);
     const BoardState stepwise =
-        stateAfter([&](ShownScreen &shown) { loadByTheLetter(shown.screen, items, size); });
+        stateAfter([&](ShownScreen &shown) { loadStepByStep(shown.screen, items, size); });
     const BoardState loaded = stateAfter([&](ShownScreen &shown) {
         shown.screen.hide();
         shown.screen.loadLayout(layoutOf(items, size));
@@ -230,7 +230,7 @@ void tst_ScreenLoad::pastesAsInView()
                                shapeObject("Q", QRect(5, 6, 7, 8)),
                                shapeObject("R", QRect(600, 10, 150, 300))};
     const auto prepare = [](ShownScreen &shown) {
-        loadByTheLetter(shown.screen, manyShapes(3), QSize(800, 400));
+        loadStepByStep(shown.screen, manyShapes(3), QSize(800, 400));
         shown.screen.items().first()->setFocus();
         shown.screen.items().first()->select();
     };
@@ -238,7 +238,7 @@ void tst_ScreenLoad::pastesAsInView()
         prepare(shown);
         shown.screen.clearSelection();
         for (const QJsonValue &object : pasted) {
-            addByTheLetter(shown.screen, object.toObject());
+            addStepByStep(shown.screen, object.toObject());
             shown.screen.items().last()->select();
         }
     });

@@ -16,7 +16,7 @@ Values valuesOf(const QString &kind, const QString &align)
             {"Color", "red"}, {"Border", true}, {"Line Width", 1}, {"Border Color", "white"}};
 }
 
-/// Paints one shape by the stated calls, apart from the product.
+/// Paints one shape by plain calls of the toolkit, apart from the product.
 class Draughtsman
 {
 public:
@@ -202,8 +202,8 @@ private slots:
     void initTestCase();
     void cleanupTestCase();
 
-    void isPaintedByTheStatedCalls_data();
-    void isPaintedByTheStatedCalls();
+    void isPaintedByPlainCalls_data();
+    void isPaintedByPlainCalls();
     void paintsFillsOfEveryOpacityAndColour_data();
     void paintsFillsOfEveryOpacityAndColour();
     void readsWhateverTheMapHolds_data();
@@ -272,12 +272,12 @@ void tst_ShapePainting::addKindsAndAlignments()
     }
 }
 
-void tst_ShapePainting::isPaintedByTheStatedCalls_data()
+void tst_ShapePainting::isPaintedByPlainCalls_data()
 {
     addKindsAndAlignments();
 }
 
-void tst_ShapePainting::isPaintedByTheStatedCalls()
+void tst_ShapePainting::isPaintedByPlainCalls()
 {
     QFETCH(QString, kind);
     QFETCH(QString, align);
