@@ -319,10 +319,10 @@ void RowList::addRenderer()
     const QString ours = program("boardwright-render");
     const QString floor = program("bench-floor-render");
     ratio(11, QStringLiteral("render 1000, time"), rendered(ours, 1000, "wall"),
-          rendered(floor, 1000, "wall"), 2.5);
+          rendered(floor, 1000, "wall"), 0.65);
     ratio(11, QStringLiteral("render 1000, CPU"), rendered(ours, 1000, "process"),
-          rendered(floor, 1000, "process"), 2.5);
-    value(11, QStringLiteral("render 1000, peak MiB"), rendered(ours, 1000, "peak"), 110);
+          rendered(floor, 1000, "process"), 0.65);
+    value(11, QStringLiteral("render 1000, peak MiB"), rendered(ours, 1000, "peak"), 40);
     growth(11, QStringLiteral("render, growth 1000 to 10000"), rendered(ours, 10000, "process"),
            rendered(ours, 1000, "process"), 10, 1.0);
 }
