@@ -84,6 +84,8 @@ void tst_SvgContents::takesDrawingsThatStayInside()
 void tst_SvgContents::refusesWhatReachesOutside_data()
 {
     QTest::addColumn<QByteArray>("content");
+    QTest::newRow("addresses in one another")
+        << svg("<g style='fill:" + QByteArray("url(#").repeated(500) + "'/>");
     for (const char *address :
          {"", "x.png", "/dev/zero", "file:///dev/zero", "http://example.invalid/x.png", "x.svg#a", " #a",
           "data:text/css,x", "data:", " data:image/png;base64,AAAA", "DATA:image/png;base64,AAAA"}) {
