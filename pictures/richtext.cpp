@@ -20,6 +20,7 @@ constexpr qint64 maximumCells = 16 * 1024;          // of all tables together
 constexpr qint64 maximumWork = 6 * 1024;            // cells and as much as a cell, in tables
 constexpr qint64 maximumMerging = 1024 * 1024;      // cells times cells
 constexpr qint64 maximumMatching = 2 * 1024 * 1024; // selectors times elements and what is around them
+constexpr qint64 maximumStyling = 32 * 1024 * 1024; // characters of style sheets times selectors times tags
 
 /// True when a style may say so, be it in a roundabout way of writing.
 bool mayChangeDisplay(const QString &html)
@@ -50,7 +51,7 @@ private:
     {
         return m_text > RichText::maximumText || m_tags > maximumTags || m_attributes > maximumAttributes ||
                m_pictures > maximumPictures || m_style > maximumStyle ||
-               m_selectors * m_elements > maximumMatching ||
+               m_selectors * m_elements > maximumMatching || m_styling * m_tags > maximumStyling ||
                m_reader.attributes() > HtmlReader::maximumAttributes || m_open.depth() > maximumDepth ||
                m_open.tables() > maximumTableDepth || m_open.cells() > maximumCells ||
                m_open.merging() > maximumMerging || m_work / workOfCell + m_open.weight() > maximumWork;
@@ -100,7 +101,18 @@ private:
         m_isOddStyle = m_isOddStyle || contains("@/\\\"'", code);
         m_braces += code == '{' ? 1 : code == '}' ? -1 : 0;
         const bool isOutside = m_braces <= 0 || m_isOddStyle;
-        m_selectors += contains("{,", code) || (isOutside && contains(" \t\n>+~[.:#*", code));
+        const bool isSelector = contains("{,", code) || (isOutside && contains(" \t\n>+~[.:#*", code));
+        m_selectors += isSelector;
+        countRule(code, isSelector);
+    }
+
+    /// What a rule declares is read once for each of its selectors, and anew for each element.
+    void countRule(uint code, bool isSelector)
+    {
+        m_selectorsOfRule += isSelector;
+        m_styling += qMax(m_selectorsOfRule, 1);
+        if (code == '}' && !m_isOddStyle)
+            m_selectorsOfRule = 0;
     }
 
     static bool contains(const char *characters, uint code)
@@ -131,7 +143,9 @@ private:
     qint64 m_elements = 0; // each with those around it and its attributes
     int m_style = 0;
     qint64 m_selectors = 0;
-    qint64 m_work = 0; // characters
+    int m_selectorsOfRule = 0;
+    qint64 m_styling = 0; // characters of style sheets, each times the selectors of its rule
+    qint64 m_work = 0;    // characters
     int m_braces = 0;
     bool m_isOddStyle = false;
     bool m_hasRoot = false;

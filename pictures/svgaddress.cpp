@@ -69,7 +69,9 @@ bool SvgAddress::staysInside(const QString &style, QVector<QByteArray> &pictures
     const QString mark = QStringLiteral("url(");
     for (int at = letters.indexOf(mark, 0, Qt::CaseInsensitive); at >= 0;
          at = letters.indexOf(mark, at + mark.size(), Qt::CaseInsensitive)) {
-        if (!isInside(addressAt(letters, at + mark.size()), pictures))
+        const QString address = addressAt(letters, at + mark.size());
+        // One within another: each would be read to the end of all.
+        if (address.contains(QLatin1Char('(')) || !isInside(address, pictures))
             return false;
     }
     return !letters.contains(QLatin1String("@import"), Qt::CaseInsensitive);

@@ -6,10 +6,24 @@
 #include <QFileInfo>
 #include <QXmlStreamReader>
 
+#include <algorithm>
 #include <utility>
 
 namespace
 {
+/// The reader compares each attribute of an element with all of the others.
+constexpr int maximumAttributes = 1000; // of one element
+
+/// True when that many signs of equality lie between two openings of tags, which no attribute contains.
+bool hasTooManyAttributes(const QByteArray &svg)
+{
+    int attributes = 0;
+    return std::any_of(svg.begin(), svg.end(), [&attributes](char letter) {
+        attributes = letter == '<' ? 0 : attributes + (letter == '=' ? 1 : 0);
+        return attributes > maximumAttributes;
+    });
+}
+
 /// The name without the prefix of its namespace: what reads drawings may go by either.
 QString localName(const QStringRef &name)
 {
@@ -157,9 +171,12 @@ private:
 
 SvgContents SvgContents::of(const QByteArray &svg)
 {
-    if (svg.size() <= maximumBytes)
-        return Reading(svg).contents();
     SvgContents contents;
-    contents.refusal = QStringLiteral("the drawing has more than %1 bytes").arg(maximumBytes);
+    if (svg.size() > maximumBytes)
+        contents.refusal = QStringLiteral("the drawing has more than %1 bytes").arg(maximumBytes);
+    else if (hasTooManyAttributes(svg))
+        contents.refusal = QStringLiteral("an element of the drawing has too many attributes");
+    else
+        contents = Reading(svg).contents();
     return contents;
 }

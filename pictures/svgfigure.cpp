@@ -50,14 +50,12 @@ QTransform transformOf(const QString &text)
 {
     static const QRegularExpression step(QStringLiteral("[\\s,]*([A-Za-z]+)\\s*\\(([^)]*)\\)"));
     QTransform transform;
-    int place = 0;
-    while (place < text.size()) {
-        const QRegularExpressionMatch match =
-            step.match(text, place, QRegularExpression::NormalMatch, QRegularExpression::AnchoredMatchOption);
-        if (!match.hasMatch())
-            break;
+    // The whole text is checked once for all steps, not for each of them.
+    for (auto steps = step.globalMatch(text, 0, QRegularExpression::NormalMatch,
+                                       QRegularExpression::AnchoredMatchOption);
+         steps.hasNext();) {
+        const QRegularExpressionMatch match = steps.next();
         transform = stepOf(match.captured(1), SvgPath::numbersIn(match.captured(2))) * transform;
-        place = match.capturedEnd();
     }
     return transform;
 }

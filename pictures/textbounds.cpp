@@ -22,6 +22,8 @@ constexpr qreal largestOfRest = 32; // pixels, of each length beyond that
 constexpr int noFormat = -1;
 constexpr int maximumLines = RichText::maximumText + 16; // as many as characters, and what a table needs
 constexpr int maximumPieces = 1000;                      // of a word, and accents on one letter
+constexpr int maximumFloats = 100;                       // tables; each line looks at all of them
+constexpr qint64 maximumCounting = 16 * 1000 * 1000;     // each item of a list counts those before it
 constexpr qreal largestMargin = 2e6; // pixels above all text, which the program itself sets
 
 QSize ownSize(const QTextDocument &document, const QTextImageFormat &format)
@@ -334,6 +336,25 @@ int piecesOfWord(const QTextBlock &block)
     return longest;
 }
 
+/// The frames at all depths that text flows around.
+int floatsIn(const QTextFrame &parent)
+{
+    int floats = 0;
+    const QList<QTextFrame *> frames = parent.childFrames();
+    for (const QTextFrame *frame : frames)
+        floats += (frame->frameFormat().position() != QTextFrameFormat::InFlow) + floatsIn(*frame);
+    return floats;
+}
+
+/// How often the items of all lists look at one of their own list.
+qint64 countingIn(const QTextDocument &document)
+{
+    qint64 looks = 0;
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
+        looks += block.textList() ? block.textList()->count() : 0;
+    return looks;
+}
+
 /// The most accents on one letter.
 int accents(const QString &text)
 {
@@ -350,7 +371,8 @@ int accents(const QString &text)
 bool TextBounds::isShowable(const QTextDocument &document)
 {
     const Size size = sizeOf(document);
-    if (size.characters > RichText::maximumText || size.lines > maximumLines)
+    if (size.characters > RichText::maximumText || size.lines > maximumLines ||
+        floatsIn(*document.rootFrame()) > maximumFloats || countingIn(document) > maximumCounting)
         return false;
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
         if (piecesOfWord(block) > maximumPieces || accents(block.text()) > maximumPieces)

@@ -104,6 +104,10 @@ void tst_RichText::nothingHidesFromTheJudge_data()
         << "<style>" + times(1000, "b ") + "{}</style>" + times(2000, "<b></b>");
     QTest::newRow("selectors in a rule")
         << "<style>@media all{" + times(1000, "b ") + "{}}</style>" + times(2000, "<b></b>");
+    QTest::newRow("declarations") << "<style>*{" + times(3000, "color:red;") + "}</style>" +
+                                         times(3000, "<p>x");
+    QTest::newRow("declarations of many selectors")
+        << "<style>" + times(600, "p,") + "p{" + times(300, "color:red;") + "}</style>" + times(1000, "<p>x");
     QTest::newRow("long style sheet") << "<style>" + times(256 * 1024 + 1, "a") + "</style>";
 }
 

@@ -29,6 +29,8 @@ private slots:
     void countsElementsAsOftenAsTheyAreUsed();
     void refusesTooManyElements();
     void refusesTooManyUses();
+    void refusesTooManyAttributes();
+    void readsAnyNumberOfTransforms();
     void refusesCircles_data();
     void refusesCircles();
     void refusesTooDeepOnes();
@@ -82,6 +84,8 @@ void tst_SvgContents::takesDrawingsThatStayInside()
 void tst_SvgContents::refusesWhatReachesOutside_data()
 {
     QTest::addColumn<QByteArray>("content");
+    QTest::newRow("addresses in one another")
+        << svg("<g style='fill:" + QByteArray("url(#").repeated(500) + "'/>");
     for (const char *address :
          {"", "x.png", "/dev/zero", "file:///dev/zero", "http://example.invalid/x.png", "x.svg#a", " #a",
           "data:text/css,x", "data:", " data:image/png;base64,AAAA", "DATA:image/png;base64,AAAA"}) {
@@ -193,6 +197,23 @@ void tst_SvgContents::refusesTooManyElements()
 {
     QCOMPARE(SvgContents::of(svg(QByteArray("<g/>").repeated(49999))).refusal, QString());
     QVERIFY(!SvgContents::of(svg(QByteArray("<g/>").repeated(50000))).refusal.isEmpty());
+}
+
+void tst_SvgContents::refusesTooManyAttributes()
+{
+    QByteArray attributes;
+    for (int i = 0; i < 900; ++i)
+        attributes += " a" + QByteArray::number(i) + "=''";
+    QCOMPARE(SvgContents::of(svg("<g" + attributes + "/><g" + attributes + "/>")).refusal, QString());
+    for (int i = 900; i < 1001; ++i)
+        attributes += " a" + QByteArray::number(i) + "=''";
+    QVERIFY(!SvgContents::of(svg("<g" + attributes + "/>")).refusal.isEmpty());
+}
+
+void tst_SvgContents::readsAnyNumberOfTransforms()
+{
+    const QByteArray turns = QByteArray("rotate(0)").repeated(400000);
+    QCOMPARE(SvgContents::of(svg("<g transform='" + turns + "'/>")).refusal, QString());
 }
 
 void tst_SvgContents::refusesTooManyUses()

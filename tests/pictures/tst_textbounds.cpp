@@ -254,6 +254,13 @@ void tst_TextBounds::judgesWhatTheLayoutDependsOn_data()
     QTest::newRow("words of pieces") << QString("<b>x</b><i>y</i> ").repeated(3000) << true;
     QTest::newRow("accents") << QString("a") + QString(1000, QChar(0x301)) << true;
     QTest::newRow("too many accents") << QString("a") + QString(1001, QChar(0x301)) << false;
+    const QString table = "<table style='float:left'><tr><td>x</table>";
+    QTest::newRow("floats") << table.repeated(100) << true;
+    QTest::newRow("too many floats") << table.repeated(101) << false;
+    QTest::newRow("too many floats in a table") << "<table><tr><td>" + table.repeated(101) << false;
+    QTest::newRow("list") << "<ol>" + QString("<li>x").repeated(4000) << true;
+    QTest::newRow("too long a list") << "<ol>" + QString("<li>x").repeated(4001) << false;
+    QTest::newRow("lists") << QString("<ol><li>x</ol>").repeated(8000) << true;
 }
 
 void tst_TextBounds::judgesWhatTheLayoutDependsOn()
