@@ -11,16 +11,17 @@
 
 namespace
 {
-/// The reader compares each attribute of an element with all of the others.
-constexpr int maximumAttributes = 1000; // of one element
+/// The reader compares each attribute of an element with all of the others, and escapes in styles with what
+/// is before them.
+constexpr int maximumSigns = 1000; // of each sort, in one element
 
-/// True when that many signs of equality lie between two openings of tags, which no attribute contains.
-bool hasTooManyAttributes(const QByteArray &svg)
+/// True when that many of these signs lie between two openings of tags, which no attribute contains.
+bool hasTooMany(char sign, const QByteArray &svg)
 {
-    int attributes = 0;
-    return std::any_of(svg.begin(), svg.end(), [&attributes](char letter) {
-        attributes = letter == '<' ? 0 : attributes + (letter == '=' ? 1 : 0);
-        return attributes > maximumAttributes;
+    int signs = 0;
+    return std::any_of(svg.begin(), svg.end(), [&signs, sign](char letter) {
+        signs = letter == '<' ? 0 : signs + (letter == sign ? 1 : 0);
+        return signs > maximumSigns;
     });
 }
 
@@ -174,8 +175,10 @@ SvgContents SvgContents::of(const QByteArray &svg)
     SvgContents contents;
     if (svg.size() > maximumBytes)
         contents.refusal = QStringLiteral("the drawing has more than %1 bytes").arg(maximumBytes);
-    else if (hasTooManyAttributes(svg))
+    else if (hasTooMany('=', svg))
         contents.refusal = QStringLiteral("an element of the drawing has too many attributes");
+    else if (hasTooMany('\\', svg))
+        contents.refusal = QStringLiteral("an element of the drawing has too many escapes");
     else
         contents = Reading(svg).contents();
     return contents;

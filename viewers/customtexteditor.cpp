@@ -126,6 +126,9 @@ void CustomTextEditor::insertBeginning(const QMimeData &source)
     QString text = TextBounds::beginning(plainTextOf(source), *withoutSelection());
     while (!text.isEmpty() && !hasRoomFor(QTextDocumentFragment::fromPlainText(text)))
         text.truncate(text.size() / 2);
+    // Not between the two halves of one character.
+    if (!text.isEmpty() && text.at(text.size() - 1).isHighSurrogate())
+        text.chop(1);
     insertPlainText(text);
 }
 

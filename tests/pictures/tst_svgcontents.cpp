@@ -30,6 +30,7 @@ private slots:
     void refusesTooManyElements();
     void refusesTooManyUses();
     void refusesTooManyAttributes();
+    void refusesTooManyEscapes();
     void readsAnyNumberOfTransforms();
     void refusesCircles_data();
     void refusesCircles();
@@ -208,6 +209,14 @@ void tst_SvgContents::refusesTooManyAttributes()
     for (int i = 900; i < 1001; ++i)
         attributes += " a" + QByteArray::number(i) + "=''";
     QVERIFY(!SvgContents::of(svg("<g" + attributes + "/>")).refusal.isEmpty());
+}
+
+void tst_SvgContents::refusesTooManyEscapes()
+{
+    const QByteArray escapes = QByteArray("\\a").repeated(900);
+    QCOMPARE(SvgContents::of(svg("<g style='" + escapes + "'/><g style='" + escapes + "'/>")).refusal,
+             QString());
+    QVERIFY(!SvgContents::of(svg("<g style='" + escapes.repeated(2) + "'/>")).refusal.isEmpty());
 }
 
 void tst_SvgContents::readsAnyNumberOfTransforms()

@@ -178,6 +178,7 @@ private slots:
     void pastesWhatCanBeShown();
     void pastesTheBeginningOfTooMuch_data();
     void pastesTheBeginningOfTooMuch();
+    void cutsAPasteBetweenCharacters();
     void pastesTheBeginningOfTheTextBesideIt();
     void pastesNoMoreThanCanBeOpenedAgain();
     void contextMenuIsDressedAndGoes();
@@ -441,6 +442,18 @@ void tst_CustomTextEditor::pastesTheBeginningOfTooMuch()
     QVERIFY2(editor.toPlainText().startsWith(beginning), qPrintable(editor.toPlainText().left(50)));
     QString text = editor.toPlainText();
     QCOMPARE(text.remove('\n').size(), 16 * 1024);
+}
+
+void tst_CustomTextEditor::cutsAPasteBetweenCharacters()
+{
+    CustomTextEditor editor;
+    auto *data = new QMimeData;
+    data->setText("a" + QString::fromUtf8("😀").repeated(9000));
+    QGuiApplication::clipboard()->setMimeData(data);
+    editor.paste();
+    QCOMPARE(editor.toPlainText().size(), 16 * 1024 - 1);
+    const QString text = editor.toPlainText();
+    QVERIFY(text.at(text.size() - 1).isLowSurrogate());
 }
 
 void tst_CustomTextEditor::pastesTheBeginningOfTheTextBesideIt()
