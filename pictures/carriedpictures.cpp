@@ -29,19 +29,19 @@ QByteArray carriedBytes(const QUrl &address)
 }
 
 /// Of an address that carries megabytes, the beginning says which it is.
-void tellOfLimit(const QUrl &address, const QString &reason)
+void tellOfLimit(const QString &item, const QUrl &address, const QString &reason)
 {
     constexpr int beginning = 60;
-    qDebug().nospace() << "A text leaves out a picture, " << address.toString().left(beginning) << ": "
-                       << qPrintable(reason);
+    qDebug().nospace() << "Text " << item << " leaves out a picture, " << address.toString().left(beginning)
+                       << ": " << qPrintable(reason);
 }
 
-QImage carriedImage(const QUrl &address, qint64 room)
+QImage carriedImage(const QString &item, const QUrl &address, qint64 room)
 {
     QString reason;
     QImage image = MediaFile::pictureIn(carriedBytes(address), room / MediaFile::bytesOf({1, 1}), &reason);
     if (!reason.isEmpty())
-        tellOfLimit(address, reason);
+        tellOfLimit(item, address, reason);
     return image;
 }
 
@@ -52,16 +52,16 @@ qint64 bytesOf(const QImage &image)
 }
 } // namespace
 
-QVariant CarriedPictures::resource(int type, const QUrl &address)
+QVariant CarriedPictures::resource(int type, const QUrl &address, const QString &item)
 {
     if (type != QTextDocument::ImageResource)
         return QByteArray("");
     const bool isCarried = address.scheme() == QLatin1String("data");
-    const QImage image = isCarried ? carriedImage(address, maximumBytes - m_bytes) : QImage();
+    const QImage image = isCarried ? carriedImage(item, address, maximumBytes - m_bytes) : QImage();
     if (image.isNull())
         return leftOut();
     if (!m_claim.take(m_bytes + bytesOf(image))) {
-        tellOfLimit(address, QStringLiteral("all media together take too much memory"));
+        tellOfLimit(item, address, QStringLiteral("all media together take too much memory"));
         return leftOut();
     }
     m_bytes += bytesOf(image);

@@ -13,8 +13,8 @@ class CarriedPictures
 {
 public:
     /// What a document asks for by a type of QTextDocument's and an address. Never nothing, since the toolkit
-    /// would then look for itself.
-    QVariant resource(int type, const QUrl &address);
+    /// would then look for itself. What a limit leaves out is told to the log, under the name of the item.
+    QVariant resource(int type, const QUrl &address, const QString &item = QString());
 
     /// Gives the room of all pictures so far back.
     void clear();

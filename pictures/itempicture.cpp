@@ -68,7 +68,8 @@ void ItemPicture::paint(QPainter &painter, const QJsonObject &item, QSize screen
     // Also what is out of sight: whether a picture is read depends on those before it.
     if (kind->paint == &StillPicture::paint)
         files.push_back(SharedPicture::in(values.value(MediaKeys::path()).toString()));
-    if (!geometry.intersects(QRect(QPoint(), screen)))
+    const bool hasNoFile = kind->paint == &StillPicture::paint && !files.back();
+    if (hasNoFile || !geometry.intersects(QRect(QPoint(), screen)))
         return;
     painter.save();
     painter.translate(geometry.topLeft());

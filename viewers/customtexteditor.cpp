@@ -1,5 +1,6 @@
 #include "viewers/customtexteditor.h"
 
+#include "model/contenthost.h"
 #include "pictures/largeletters.h"
 #include "pictures/richtext.h"
 #include "pictures/textbounds.h"
@@ -36,6 +37,16 @@ QString plainTextOf(const QMimeData &source)
     return source.hasText() ? source.text().left(length) : RichText::excerpt(htmlOf(source), length);
 }
 
+/// The name of the item around the editor, wherever it is lodged; empty without one.
+QString nameOfItem(const QWidget &editor)
+{
+    for (QWidget *around = editor.parentWidget(); around; around = around->parentWidget()) {
+        if (const auto *host = dynamic_cast<const ContentHost *>(around))
+            return host->name();
+    }
+    return {};
+}
+
 /// Whether words are being dragged out of the editor, or were until just now.
 bool hasDrag(const QTextEdit &editor)
 {
@@ -56,7 +67,7 @@ bool CustomTextEditor::showHtml(const QString &html)
 
 QVariant CustomTextEditor::loadResource(int type, const QUrl &name)
 {
-    return m_pictures.resource(type, name);
+    return m_pictures.resource(type, name, nameOfItem(*this));
 }
 
 void CustomTextEditor::contextMenuEvent(QContextMenuEvent *event)

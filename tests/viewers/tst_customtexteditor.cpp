@@ -18,6 +18,7 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QPointer>
+#include <QRegularExpression>
 #include <QScrollBar>
 #include <QTcpServer>
 #include <QTemporaryDir>
@@ -165,6 +166,7 @@ private slots:
     void picturesShareTheRoomOfTheirText();
     void picturesShareTheMemoryOfAllMedia();
     void picturesCountAsWhatTheyTake();
+    void tellsTheLogWhichItemLeavesAPictureOut();
     void pictureThatIsShownTwiceIsReadOnce();
     void leavesOutEverythingElse_data();
     void leavesOutEverythingElse();
@@ -269,6 +271,15 @@ void tst_CustomTextEditor::picturesCountAsWhatTheyTake()
     QCOMPARE(MemoryClaim::left(), MemoryClaim::maximum - 1000 * 900 * 4);
     QCOMPARE(sizeOf(editor, carriedGif({1601, 1400})), QSize(1, 1));
     QCOMPARE(sizeOf(editor, carriedGif({16405, 8977})), QSize(1, 1));
+}
+
+void tst_CustomTextEditor::tellsTheLogWhichItemLeavesAPictureOut()
+{
+    TextBoard texts;
+    const ScreenItem *frame = texts.addText({0, 0, 100, 50}, "Clock");
+    const QRegularExpression line("Text \"Clock\" leaves out a picture, \"data:image/gif.*\": .*pixels");
+    QTest::ignoreMessage(QtDebugMsg, line);
+    editorIn(frame)->showHtml("<img src='" + carriedGif({16405, 8977}) + "'>");
 }
 
 void tst_CustomTextEditor::pictureThatIsShownTwiceIsReadOnce()
